@@ -1,0 +1,163 @@
+// Loading the component from a C++ host.
+#pragma once
+
+#include <TAMURReader.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+#ifndef _WIN32
+#include <dlfcn.h>
+#endif
+
+namespace tamur {
+
+// A call of the component that did not succeed.
+class ComponentError : public std::runtime_error {
+ public:
+    ComponentError(const std::string& what, HRESULT result)
+        : std::runtime_error(what), result_(result)
+    {
+    }
+
+    [[nodiscard]] HRESULT Result() const { return result_; }
+
+ private:
+    HRESULT result_;
+};
+
+inline void Check(HRESULT result, const char* what)
+{
+    if (FAILED(result)) throw ComponentError(std::string(what) + " failed", result);
+}
+
+// Holds one reference to an interface.
+template <class Interface>
+class ComPtr {
+ public:
+    ComPtr() = default;
+    ComPtr(const ComPtr& other) : pointer_(other.pointer_)
+    {
+        if (pointer_ != nullptr) pointer_->AddRef();
+    }
+    ComPtr(ComPtr&& other) noexcept : pointer_(std::exchange(other.pointer_, nullptr)) {}
+    ComPtr& operator=(ComPtr other) noexcept
+    {
+        std::swap(pointer_, other.pointer_);
+        return *this;
+    }
+    ~ComPtr()
+    {
+        if (pointer_ != nullptr) pointer_->Release();
+    }
+
+    // Releases what is held; for out parameters.
+    [[nodiscard]] Interface** Put()
+    {
+        *this = ComPtr();
+        return &pointer_;
+    }
+    [[nodiscard]] void** PutVoid() { return reinterpret_cast<void**>(Put()); }
+
+    [[nodiscard]] Interface* Get() const { return pointer_; }
+    Interface* operator->() const { return pointer_; }
+    Interface& operator*() const { return *pointer_; }
+    explicit operator bool() const { return pointer_ != nullptr; }
+
+ private:
+    Interface* pointer_ = nullptr;
+};
+
+// A string of the host's own.
+class String {
+ public:
+    explicit String(const OLECHAR* text) : text_(SysAllocString(text)) {}
+    String(const String&) = delete;
+    String& operator=(const String&) = delete;
+    ~String() { SysFreeString(text_); }
+
+    [[nodiscard]] BSTR Get() const { return text_; }
+
+ private:
+    BSTR text_;
+};
+
+// The loaded component. Must outlive everything that was got from it.
+class Component {
+ public:
+    // `path` names TAMURReader.dll or libTAMURReader.so. Throws ComponentError.
+    explicit Component(const std::filesystem::path& path)
+    {
+#ifdef _WIN32
+        library_ = LoadLibraryW(path.c_str());
+        if (library_ == nullptr) {
+            throw ComponentError("cannot load " + path.string(),
+                                 HRESULT_FROM_WIN32(GetLastError()));
+        }
+#else
+        library_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (library_ == nullptr) throw ComponentError(dlerror(), E_FAIL);
+#endif
+        getClassObject_ =
+            Function<HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**)>("DllGetClassObject");
+        canUnloadNow_ = Function<HRESULT(STDAPICALLTYPE*)()>("DllCanUnloadNow");
+    }
+    Component(const Component&) = delete;
+    Component& operator=(const Component&) = delete;
+    ~Component()
+    {
+#ifdef _WIN32
+        FreeLibrary(library_);
+#else
+        dlclose(library_);
+#endif
+    }
+
+    // An exported function as `Pointer`. Throws ComponentError when there is none.
+    template <class Pointer>
+    [[nodiscard]] Pointer Function(const char* name) const
+    {
+#ifdef _WIN32
+        void* const function = reinterpret_cast<void*>(GetProcAddress(library_, name));
+#else
+        void* const function = dlsym(library_, name);
+#endif
+        if (function == nullptr) throw ComponentError(std::string("no function ") + name, E_FAIL);
+        return reinterpret_cast<Pointer>(function);
+    }
+
+    [[nodiscard]] HRESULT GetClassObject(REFCLSID classId, REFIID riid, void** object) const
+    {
+        return getClassObject_(classId, riid, object);
+    }
+
+    [[nodiscard]] bool CanUnloadNow() const
+    {
+        return canUnloadNow_() == S_OK;
+    }
+
+    // A new reader. One reader imports one file. Throws ComponentError.
+    [[nodiscard]] ComPtr<ITAMURStructureReader> CreateReader() const
+    {
+        ComPtr<IClassFactory> factory;
+        Check(GetClassObject(CLSID_TAMURStructureReader, IID_IClassFactory, factory.PutVoid()),
+              "DllGetClassObject");
+        ComPtr<ITAMURStructureReader> reader;
+        Check(factory->CreateInstance(nullptr, IID_ITAMURStructureReader, reader.PutVoid()),
+              "CreateInstance");
+        return reader;
+    }
+
+ private:
+#ifdef _WIN32
+    HMODULE library_;
+#else
+    void* library_;
+#endif
+    HRESULT(STDAPICALLTYPE* getClassObject_)(REFCLSID, REFIID, void**);
+    HRESULT(STDAPICALLTYPE* canUnloadNow_)();
+};
+
+}  // namespace tamur

@@ -1,0 +1,241 @@
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "accessors/records.h"
+#include "model/type_names.h"
+
+namespace tamur {
+namespace {
+
+// The record at a place from 1; an empty one when there is none.
+template <class Record, class PublicRecord>
+void CopyReferred(const Table<Record>& table, std::uint32_t place, const Model& model,
+                  HostCopy& host, PublicRecord& to)
+{
+    Copy(place == 0 ? Record() : table[place - 1], model, host, to);
+}
+
+LONG ToPublic(std::uint32_t identifier)
+{
+    return static_cast<LONG>(identifier);
+}
+
+// Whole units, cut; the largest number when there are more.
+LONG TruncatedLength(const Segment& line)
+{
+    const double x = line.end.x - line.start.x;
+    const double y = line.end.y - line.start.y;
+    const double z = line.end.z - line.start.z;
+    const double length = std::sqrt(x * x + y * y + z * z);
+    constexpr LONG kLargest = std::numeric_limits<LONG>::max();
+    return length < kLargest ? static_cast<LONG>(length) : kLargest;
+}
+
+// Null when there is no remark.
+BSTR RemarkText(BarRemarks remarks, HostCopy& host)
+{
+    if (remarks.missingSection && remarks.turnedSection) {
+        return host.String(OLESTR("#Section doesn't exist.#Verify H section!!!"));
+    }
+    if (remarks.missingSection) return host.String(OLESTR("#Section doesn't exist."));
+    return remarks.turnedSection ? host.String(OLESTR("#Verify H section!!!")) : nullptr;
+}
+
+// Some element types are texts of which only the length means anything.
+WideView Blanks(std::size_t length)
+{
+    static constexpr WideView kBlanks = OLESTR("                     ");
+    return kBlanks.substr(0, length);
+}
+
+template <class PublicRecord>
+void CopySupport(const Support& from, SupportKind kind, HostCopy& host, PublicRecord& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElemLabels = host.Labels(from.labels);
+    to.ElementType = host.String(SupportTypeText(kind, from.condition));
+    std::memcpy(to.Raideurs, from.stiffness, sizeof to.Raideurs);
+    std::memcpy(to.Amortissements, from.damping, sizeof to.Amortissements);
+}
+
+}  // namespace
+
+void Copy(const Node& from, const Model&, HostCopy& host, TMRNode& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.ElemLabels = host.Labels(from.labels);
+    to.blocage = from.fixity;
+    to.Geometrie = ToPublic(from.position);
+}
+
+void Copy(const Bar& from, const Model& model, HostCopy& host, TMRFilaire& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElemLabels = host.Labels(from.labels);
+    to.ElementType = host.String(BarTypeName(from.type));
+    to.ErrorMessage = RemarkText(from.remarks, host);
+    to.MeshStep = from.meshStep;
+    to.RealLength = TruncatedLength(from.line);
+    CopyReferred(model.sections.all, from.startSection, model, host, to.StartSection);
+    CopyReferred(model.sections.all, from.endSection, model, host, to.EndSection);
+    CopyReferred(model.releases, from.startRelease, model, host, to.StartConnection);
+    CopyReferred(model.releases, from.endRelease, model, host, to.EndConnection);
+    CopyReferred(model.materials, from.material, model, host, to.FilaireMaterial);
+    to.CogPosition = host.String(OLESTR("CentreCentre"));
+    to.Angle = from.angle;
+    to.OrientationNode = from.orientationNode;
+    to.Excentration = static_cast<TMRFilaireExcentration>(from.offset);
+    to.startPoint = ToPublic(from.line.start);
+    to.endPoint = ToPublic(from.line.end);
+}
+
+void Copy(const Surface& from, const Model& model, HostCopy& host, TMRSurfacique& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElemLabels = host.Labels(from.labels);
+    to.ElementType = host.String(SurfaceTypeName(from.type));
+    CopyReferred(model.materials, from.material, model, host, to.SurfaciqueMaterial);
+    to.Surface = host.Polygon(from.outline);
+    to.PenteX = from.slopeX;
+    to.PenteY = from.slopeY;
+    to.Thickness = from.thickness;
+    to.MeshType = static_cast<TMRTypeMaillageSurfacique>(from.meshType);
+    to.NbXMesh = from.meshX;
+    to.NbYMesh = from.meshY;
+}
+
+void Copy(const Opening& from, const Model&, HostCopy& host, TMROuverture& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.ElemLabels = host.Labels(from.labels);
+    to.Surface = host.Polygon(from.outline);
+    to.NbXMesh = from.meshX;
+    to.NbYMesh = from.meshY;
+}
+
+void Copy(const Wall& from, const Model&, HostCopy& host, TMRParoi& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.Surface = host.Polygon(from.outline);
+    to.ElemLabels = host.Labels(from.labels);
+    to.iSensPortee = from.spanDirection;
+    to.bNeige = from.snow;
+    to.bAccumulation = from.accumulation;
+    to.iModeAccumulation = from.accumulationMode;
+    to.dCoefLongueur = from.lengthCoefficient;
+    to.dCoefPaNormale = from.normalA;
+    to.dCoefPbNormale = from.normalB;
+    to.dCoefPaExtreme = from.extremeA;
+    to.dCoefPbExtreme = from.extremeB;
+    to.bVent = from.wind;
+    to.iVentType = from.windType;
+    to.dPermeabilite = from.permeability;
+    for (int k = 0; k < 4; ++k) {
+        to.iStatutVent[k] = from.zones[k].status;
+        to.dCe[k] = from.zones[k].external;
+        to.dCiSupression[k] = from.zones[k].overpressure;
+        to.dCiDepression[k] = from.zones[k].depression;
+    }
+    to.portCoef.nbPoints = from.outline.count;
+    to.portCoef.tabCoef = host.Array(from.spanCoefficients, from.outline.count);
+}
+
+void Copy(const PointSupport& from, const Model&, HostCopy& host, TMRAppuiPonctuel& to)
+{
+    CopySupport(from, SupportKind::kPoint, host, to);
+    to.Surface = from.area;
+    to.Angle = from.angle;
+    to.NdOri = from.orientationNode;
+    to.Geometrie = ToPublic(from.position);
+}
+
+void Copy(const LineSupport& from, const Model&, HostCopy& host, TMRAppuiLineaire& to)
+{
+    CopySupport(from, SupportKind::kLine, host, to);
+    to.Surface = from.area;
+    to.Angle = from.angle;
+    to.Repere = APP_P_REP_GLOBAL;
+    to.Geometrie = ToPublic(from.line);
+}
+
+void Copy(const SurfaceSupport& from, const Model&, HostCopy& host, TMRAppuiSurfacique& to)
+{
+    CopySupport(from, SupportKind::kSurface, host, to);
+    to.Geometrie = host.Polygon(from.outline);
+}
+
+void Copy(const Mass& from, const Model&, HostCopy& host, TMRMasse& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = 0;
+    to.ElemLabels = host.Labels(from.labels);
+    to.ElementType = host.String(OLESTR(""));
+    to.NumCas = 0;
+    to.Repere = 0;
+    to.Mx = from.mass[0];
+    to.My = from.mass[1];
+    to.Mz = from.mass[2];
+    to.Ix = from.inertia[0];
+    to.Iy = from.inertia[1];
+    to.Iz = from.inertia[2];
+    to.Geometrie = ToPublic(from.position);
+}
+
+void Copy(const Displacement& from, const Model&, HostCopy& host, TMRDeplacement& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElementType = host.String(Blanks(12));
+    to.dX = from.translation[0];
+    to.dY = from.translation[1];
+    to.dZ = from.translation[2];
+    to.Rx = from.rotation[0];
+    to.Ry = from.rotation[1];
+    to.Rz = from.rotation[2];
+    to.Geometrie = ToPublic(from.position);
+}
+
+void Copy(const SurfaceSection& from, const Model&, HostCopy& host, TMRSurfacicSection& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.Couche = from.layer;
+    to.ElementType = host.String(Blanks(15));
+    to.Geometrie = ToPublic(from.line);
+}
+
+void Copy(const InnerLine& from, const Model&, HostCopy& host, TMRLineInterieur& to)
+{
+    to.lIdentifier = ToPublic(from.identifier);
+    to.iMaillage = from.mesh;
+    to.ElemLabels = host.Labels(from.labels);
+    to.Geometrie = ToPublic(from.line);
+}
+
+void Copy(const Cable& from, const Model&, HostCopy& host, TMRCable& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElementType = host.String(Blanks(21));
+    to.NumCas = from.caseNumber;
+    to.Repere = from.frame;
+    to.Geometrie = ToPublic(from.line);
+}
+
+void Copy(const ConstructionLine& from, const Model&, HostCopy& host, TMRLine& to)
+{
+    to.identifier = ToPublic(from.identifier);
+    to.GroupNumber = from.group;
+    to.ElemLabels = host.Labels(from.labels);
+    to.ElementType = host.String(OLESTR("Ligne"));
+    to.NrElements = from.elementCount;
+    to.Spacing = from.spacing;
+    to.SizeElements = from.elementSize;
+    to.SpacingFactor = from.spacingFactor;
+    to.Geometrie = ToPublic(from.line);
+}
+
+}  // namespace tamur

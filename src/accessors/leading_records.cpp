@@ -1,0 +1,56 @@
+#include "accessors/records.h"
+#include "model/type_names.h"
+
+namespace tamur {
+
+void Copy(const Material& from, const Model&, HostCopy& host, TMRMaterial& to)
+{
+    to.MaterialName = host.String(from.name);
+    to.E = from.modulus;
+    to.nu = from.poisson;
+    to.d = from.density;
+    to.alpha = from.expansion;
+    to.amortissement = from.damping;
+}
+
+void Copy(const Section& from, const Model&, HostCopy& host, TMRSectionGeometry& to)
+{
+    to.SectionLib = host.String(from.name);
+    to.Sx = from.constants[0];
+    to.Sy = from.constants[1];
+    to.Sz = from.constants[2];
+    to.Ix = from.constants[3];
+    to.Iy = from.constants[4];
+    to.Iz = from.constants[5];
+    to.Vx = from.constants[6];
+    to.V1y = from.constants[7];
+    to.V1z = from.constants[8];
+    to.V2y = from.constants[9];
+    to.V2z = from.constants[10];
+    const Outline& outline = from.outline;
+    to.epureSec.Code = outline.code;
+    to.epureSec.nbPoints = outline.pointCount;
+    to.epureSec.pTabPoints = host.Array(outline.coordinates, outline.CoordinateCount());
+    to.epureSec.dfRadius = outline.radius;
+}
+
+void Copy(const Release& from, const Model&, HostCopy& host, TMRAttache& to)
+{
+    to.AttacheLib = host.String(from.name);
+    to.Rotules = static_cast<unsigned char>(from.rotations);
+    to.Titre = host.String(from.title);
+    to.Geom = host.String(from.geometry);
+    to.Def = host.String(from.definition);
+}
+
+void Copy(const Group& from, const Model&, HostCopy& host, TMRGroupe& to)
+{
+    to.Elem = from.elementKind;
+    to.Num = from.number;
+    to.Titre = host.String(from.title);
+    to.TypEl = from.typeCode;
+    to.TypeElementName = host.String(GroupTypeName(from.elementKind, from.typeCode));
+    to.Affiche = from.isDisplayed;
+}
+
+}  // namespace tamur

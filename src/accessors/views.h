@@ -1,0 +1,151 @@
+// How an accessor sees its table: what counts as its size, and what an outside rank does.
+#pragma once
+
+#include <memory>
+
+#include "model/model.h"
+#include "platform/platform.h"
+
+namespace tamur {
+
+// Every view has:
+//   Count()             the number of records that the accessor reports
+//   Has(rank)           whether there is such a record; for some views an outside rank ends the
+//                       process instead
+//   At(rank)            the record, for a rank that Has
+//   TheModel()          what the record refers to
+//   kCopyFailure        the result when memory for a copy runs out
+
+// A model without anything in it.
+const Model& NoModel();
+
+// The records that the table held when the view was made.
+template <class Record>
+class ArrayView {
+ public:
+    static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
+
+    ArrayView(const Model& model, const Table<Record>& table)
+        : model_(model), table_(table), first_(0), count_(static_cast<LONG>(table.Size()))
+    {
+    }
+    ArrayView(const Model& model, const Generation<Record>& generation)
+        : model_(model),
+          table_(generation.all),
+          first_(generation.first),
+          count_(static_cast<LONG>(generation.Size()))
+    {
+    }
+
+    [[nodiscard]] LONG Count() const { return count_; }
+    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
+    [[nodiscard]] const Record& At(LONG rank) const
+    {
+        return table_[first_ + static_cast<std::size_t>(rank)];
+    }
+    [[nodiscard]] const Model& TheModel() const { return model_; }
+
+ private:
+    const Model& model_;
+    const Table<Record>& table_;
+    std::size_t first_;
+    LONG count_;
+};
+
+// The records that the table holds now.
+template <class Records>
+class LiveView {
+ public:
+    static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
+
+    LiveView(const Model& model, const Records& records) : model_(model), records_(records) {}
+
+    [[nodiscard]] LONG Count() const { return static_cast<LONG>(records_.Size()); }
+    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
+    [[nodiscard]] const auto& At(LONG rank) const
+    {
+        return records_[static_cast<std::size_t>(rank)];
+    }
+    [[nodiscard]] const Model& TheModel() const { return model_; }
+
+ private:
+    const Model& model_;
+    const Records& records_;
+};
+
+// The records that the table holds now; a rank outside it breaks the contract.
+template <class Record>
+class CheckedView : public LiveView<Table<Record>> {
+ public:
+    static constexpr HRESULT kCopyFailure = E_FAIL;
+
+    using LiveView<Table<Record>>::LiveView;
+
+    [[nodiscard]] bool Has(LONG rank) const
+    {
+        if (!LiveView<Table<Record>>::Has(rank)) platform::FailContract("rank outside the table");
+        return true;
+    }
+};
+
+// The same, reporting the number of records of when the view was made.
+template <class Record>
+class FrozenCountView : public CheckedView<Record> {
+ public:
+    FrozenCountView(const Model& model, const Table<Record>& table)
+        : CheckedView<Record>(model, table), count_(static_cast<LONG>(table.Size()))
+    {
+    }
+
+    [[nodiscard]] LONG Count() const { return count_; }
+
+ private:
+    LONG count_;
+};
+
+// The bars of when the view was made, as a copy of its own. Bars and what they refer to never
+// change once read, so the copy is a share in the model and the number of its bars.
+class BarsCopy {
+ public:
+    static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
+
+    explicit BarsCopy(std::shared_ptr<const Model> model)
+        : model_(std::move(model)), count_(static_cast<LONG>(model_->bars.Size()))
+    {
+    }
+
+    [[nodiscard]] LONG Count() const { return count_; }
+    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
+    [[nodiscard]] const Bar& At(LONG rank) const
+    {
+        return model_->bars[static_cast<std::size_t>(rank)];
+    }
+    [[nodiscard]] const Model& TheModel() const { return *model_; }
+
+ private:
+    std::shared_ptr<const Model> model_;
+    LONG count_;
+};
+
+// The load cases that were not disabled when the view was made, as a copy of its own. It shares
+// in the model for their texts.
+class CasesCopy {
+ public:
+    static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
+
+    explicit CasesCopy(std::shared_ptr<const Model> model);
+
+    [[nodiscard]] LONG Count() const { return static_cast<LONG>(cases_.size()); }
+    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
+    [[nodiscard]] const LoadCase& At(LONG rank) const
+    {
+        return cases_[static_cast<std::size_t>(rank)];
+    }
+    [[nodiscard]] const Model& TheModel() const { return *model_; }
+
+ private:
+    std::shared_ptr<const Model> model_;
+    std::vector<LoadCase> cases_;
+};
+
+}  // namespace tamur

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "import/model_file.h"
+#include "import/scan/stream_scanner.h"
+#include "model/model.h"
+
+namespace tamur {
+
+// Columns 11 and following of a bar (kind 2), whose points and labels are read.
+void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file, Bar& bar);
+
+}  // namespace tamur

@@ -1,0 +1,117 @@
+// What all kinds of elements have in common: a head, points, labels, and columns of their own.
+#pragma once
+
+#include <algorithm>
+#include <type_traits>
+
+#include "import/elements/labels.h"
+#include "import/model_file.h"
+#include "import/scan/stream_scanner.h"
+#include "model/model.h"
+
+namespace tamur {
+
+template <class Record>
+concept HasPosition = requires(Record record)
+{
+    record.position;
+};
+template <class Record>
+concept HasSegment = requires(Record record)
+{
+    record.line;
+};
+template <class Record>
+concept HasPolygon = requires(Record record)
+{
+    record.outline;
+};
+template <class Record>
+concept HasLabels = requires(Record record)
+{
+    record.labels;
+};
+
+// The points that a line must announce.
+template <class Record>
+inline constexpr std::int32_t kPointsNeeded = HasSegment<Record>    ? 2
+                                              : HasPosition<Record> ? 1
+                                                                    : 0;
+
+// Reads the line behind its kind into an empty record. The members of the record decide what
+// becomes of points and labels; ReadColumns, overloaded for each record, reads the rest.
+class ElementReader {
+ public:
+    ElementReader(StreamScanner& tokens, const Line& line, Model& model, const ModelFile& file)
+        : tokens_(tokens), line_(line), model_(model), file_(file)
+    {
+    }
+
+    // False when the line is to be dropped.
+    template <class Record>
+    bool Read(Record& record)
+    {
+        std::int32_t pointCount = 0;
+        std::int32_t labelCount = 0;
+        tokens_ >> record.identifier;
+        tokens_.Skip<std::uint16_t>() >> pointCount >> labelCount;
+        if (!line_.Holds(pointCount) || !line_.Holds(labelCount)) {
+            return Drop(Finding::kCountBeyondLine);
+        }
+        pointCount = std::max(pointCount, 0);
+        if (pointCount < kPointsNeeded<Record>) return Drop(Finding::kTooFewPoints);
+        ReadGeometry(pointCount, record);
+        if constexpr (std::is_same_v<Record, Bar>) {
+            if (record.line.start == record.line.end) return Drop(Finding::kZeroLengthBar);
+        }
+        if constexpr (HasLabels<Record>) {
+            record.labels = ReadLabels(tokens_, labelCount, model_.arena);
+        } else {
+            SkipLabels(tokens_, labelCount);
+        }
+        tokens_.Skip<std::int32_t>().template Skip<std::uint32_t>().template Skip<std::uint32_t>();
+        ReadColumns(tokens_, model_, file_, record);
+        if (tokens_.Failed()) file_.Report(Finding::kUnreadableColumn);
+        return true;
+    }
+
+ private:
+    bool Drop(Finding finding)
+    {
+        file_.Report(finding);
+        return false;
+    }
+
+    void ReadPoint(Point& point) { tokens_ >> point.x >> point.y >> point.z; }
+
+    template <class Record>
+    void ReadGeometry(std::int32_t count, Record& record)
+    {
+        if constexpr (HasPolygon<Record>) {
+            record.outline = ReadPolygon(count);
+            return;
+        }
+        if constexpr (HasSegment<Record>) {
+            ReadPoint(record.line.start);
+            ReadPoint(record.line.end);
+        }
+        if constexpr (HasPosition<Record>) ReadPoint(record.position);
+        Point further;
+        for (std::int32_t i = kPointsNeeded<Record>; i < count; ++i) ReadPoint(further);
+    }
+
+    Polygon ReadPolygon(std::int32_t count)
+    {
+        if (count <= 0) return Polygon();
+        Point* const corners = model_.arena.Array<Point>(static_cast<std::size_t>(count));
+        for (std::int32_t i = 0; i < count; ++i) ReadPoint(corners[i]);
+        return {corners, count};
+    }
+
+    StreamScanner& tokens_;
+    const Line& line_;
+    Model& model_;
+    const ModelFile& file_;
+};
+
+}  // namespace tamur

@@ -1,0 +1,63 @@
+#include "import/global_settings.h"
+
+#include <cstring>
+
+#include "import/scan/format_scanner.h"
+
+namespace tamur {
+namespace {
+
+// The line behind the header as one value of that type; false when there is no such header.
+template <class T>
+bool ReadValue(ModelFile& file, SectionHeader header, T& value)
+{
+    if (!file.FindSectionHeader(header)) return false;
+    Line line;
+    file.ReadModelLine(line);
+    FormatScanner(line.text) >> value;
+    return true;
+}
+
+TMRWorkSpace WorkSpaceOf(std::int32_t code)
+{
+    switch (code) {
+        case 0: return TMRWS_PLAN;
+        case 1: return TMRWS_GRILLE;
+        default: return TMRWS_SPATIAL;
+    }
+}
+
+}  // namespace
+
+bool ReadVersion(Model& model, ModelFile& file)
+{
+    constexpr std::size_t kLongestVersion = 255;
+    model.version.clear();
+    Line line;
+    if (file.FindSectionHeader(SectionHeader::kVersion) && file.ReadModelLine(line)) {
+        model.version.assign(line.text, strnlen(line.text, kLongestVersion));
+    }
+    model.servicePack = -1;
+    if (file.FindSectionHeader(SectionHeader::kServicePack) && file.ReadModelLine(line) &&
+        !line.IsEmpty()) {
+        model.servicePack = 0;
+        FormatScanner(line.text) >> model.servicePack;
+    }
+    return true;
+}
+
+bool ReadGlobalSettings(Model& model, ModelFile& file)
+{
+    std::int32_t workSpace = 0;
+    double tolerance = 0;
+    std::int32_t rigidity = 0;
+    if (!ReadValue(file, SectionHeader::kWorkSpace, workSpace)) return false;
+    if (!ReadValue(file, SectionHeader::kTolerance, tolerance)) return false;
+    if (!ReadValue(file, SectionHeader::kRigidity, rigidity)) return false;
+    model.settings.tolerance = tolerance;
+    model.settings.workSpace = WorkSpaceOf(workSpace);
+    model.settings.rigidity = rigidity == 0 ? TMRStructureNonRigide : TMRStructureRigide;
+    return true;
+}
+
+}  // namespace tamur

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "import/model_file.h"
+#include "model/model.h"
+
+namespace tamur {
+
+// Reads the groups of "#Groupes" into the restarted table. Always true.
+bool ReadGroups(Model& model, ModelFile& file);
+
+}  // namespace tamur

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "import/model_file.h"
+#include "model/model.h"
+
+namespace tamur {
+
+// Reads the load cases of "#Cas" into the emptied table and, when one of them has parameters,
+// "#TAB_PARAM_CAS". Always true.
+bool ReadLoadCaseTables(Model& model, ModelFile& file);
+
+}  // namespace tamur

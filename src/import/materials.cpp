@@ -1,0 +1,37 @@
+#include "import/materials.h"
+
+#include "import/scan/format_scanner.h"
+
+namespace tamur {
+
+bool ReadMaterials(Model& model, ModelFile& file)
+{
+    model.hasDefaultMaterial = false;
+    if (file.FindSectionHeader(SectionHeader::kMaterials, SectionHeader::kMaterialsAccented)) {
+        for (Line line; file.ReadDataLine(line);) {
+            std::string_view name;
+            Material material;
+            FormatScanner columns(line.text);
+            columns >> name >> material.modulus >> material.poisson >> material.density >>
+                material.expansion >> material.damping;
+            if (columns.Failed()) file.Report(Finding::kUnreadableColumn);
+            material.name = MakeText(model.arena, name);
+            model.materials.Append(material);
+        }
+    }
+    if (model.materials.Size() == 0) AddDefaultMaterial(model);
+    return true;
+}
+
+void AddDefaultMaterial(Model& model)
+{
+    model.materials.Append({.name = MakeText(model.arena, "BETON"),
+                            .modulus = 1.962e10,
+                            .poisson = 0.1,
+                            .density = 24525.0,
+                            .expansion = 1e-5,
+                            .damping = 0.04});
+    model.hasDefaultMaterial = true;
+}
+
+}  // namespace tamur

@@ -1,0 +1,25 @@
+#include "import/releases.h"
+
+#include "import/scan/format_scanner.h"
+
+namespace tamur {
+
+bool ReadReleases(Model& model, ModelFile& file)
+{
+    if (!file.FindSectionHeader(SectionHeader::kReleases)) return true;
+    for (Line line; file.ReadDataLine(line);) {
+        std::string_view name, title, geometry, definition;
+        Release release;
+        FormatScanner columns(line.text);
+        columns >> name >> release.rotations >> title >> geometry >> definition;
+        if (columns.Failed()) file.Report(Finding::kUnreadableColumn);
+        release.name = MakeText(model.arena, name);
+        release.title = MakeText(model.arena, title);
+        release.geometry = MakeText(model.arena, geometry);
+        release.definition = MakeText(model.arena, definition);
+        model.releases.Append(release);
+    }
+    return true;
+}
+
+}  // namespace tamur

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "import/model_file.h"
+#include "model/model.h"
+
+namespace tamur {
+
+// Adds the releases of "#Attaches" to the table. Always true.
+bool ReadReleases(Model& model, ModelFile& file);
+
+}  // namespace tamur

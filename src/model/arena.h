@@ -1,0 +1,69 @@
+// Memory that lives as long as the model: its records, and their strings and arrays.
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <type_traits>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace tamur {
+
+// Gives out memory that never moves and is freed only with the arena. All of it is 8-byte aligned.
+// Throws std::bad_alloc.
+class Arena {
+ public:
+    Arena() = default;
+    Arena(const Arena&) = delete;
+    Arena& operator=(const Arena&) = delete;
+    ~Arena();
+
+    // Uninitialised memory.
+    [[nodiscard]] char* Allocate(std::size_t size)
+    {
+        if (size > Room()) return AllocateFromBlock(size);
+        char* const memory = next_;
+        Commit(memory + size);
+        return memory;
+    }
+
+    // `count` zero values; null for a count of 0.
+    template <class T>
+    [[nodiscard]] T* Array(std::size_t count)
+    {
+        static_assert(std::is_trivially_copyable_v<T> && alignof(T) <= kAlignment);
+        if (count == 0) return nullptr;
+        char* const memory = Allocate(count * sizeof(T));
+        std::memset(memory, 0, count * sizeof(T));
+        return reinterpret_cast<T*>(memory);
+    }
+
+    // Uninitialised memory whose size is not known yet: at most `size`. It is taken only as far as
+    // Commit says; until then it is not taken at all.
+    [[nodiscard]] char* Reserve(std::size_t size)
+    {
+        if (size > Room()) StartBlock(size);
+        return next_;
+    }
+    void Commit(const char* end)
+    {
+        const std::size_t used = static_cast<std::size_t>(end - next_);
+        next_ += (used + kAlignment - 1) / kAlignment * kAlignment;
+    }
+
+ private:
+    static constexpr std::size_t kAlignment = 8;
+
+    [[nodiscard]] std::size_t Room() const { return static_cast<std::size_t>(end_ - next_); }
+    [[nodiscard]] std::size_t UsualBlock() const;
+    char* AddBlock(std::size_t size);
+    void StartBlock(std::size_t size);
+    char* AllocateFromBlock(std::size_t size);
+
+    std::vector<char*> blocks_;
+    char* next_ = nullptr;
+    char* end_ = nullptr;
+};
+
+}  // namespace tamur

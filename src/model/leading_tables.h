@@ -1,0 +1,60 @@
+// Records of the sections that stand before the elements.
+#pragma once
+
+#include <cstdint>
+
+#include "TAMURReader.h"
+#include "model/text.h"
+
+namespace tamur {
+
+struct Settings {
+    double tolerance = 0;
+    TMRWorkSpace workSpace = TMRWS_SPATIAL;
+    TMRRigideEnFlexion rigidity = TMRStructureRigide;
+};
+
+struct Material {
+    Text name;
+    double modulus = 0;
+    double poisson = 0;
+    double density = 0;
+    double expansion = 0;
+    double damping = 0;
+};
+
+// The outline of a section: `stride` doubles a point.
+struct Outline {
+    const double* coordinates = nullptr;  // in an arena; null when there are no points
+    double radius = 0;
+    std::int32_t pointCount = 0;
+    char code = 0;
+
+    [[nodiscard]] std::int32_t Stride() const { return code == 'S' ? 3 : 2; }
+    [[nodiscard]] std::int32_t CoordinateCount() const { return pointCount * Stride(); }
+};
+
+struct Section {
+    Text name;
+    double constants[11] = {};  // Sx Sy Sz Ix Iy Iz Vx V1y V1z V2y V2z
+    bool isHShape = false;      // the name was rewritten from an H form; hosts do not see it
+    Outline outline;
+};
+
+struct Release {
+    Text name;
+    std::int32_t rotations = 0;  // hosts see the low 8 bits
+    Text title;
+    Text geometry;
+    Text definition;
+};
+
+struct Group {
+    Text title;
+    std::int32_t number = 0;
+    std::uint8_t elementKind = 0;
+    std::uint8_t typeCode = 0;
+    bool isDisplayed = false;
+};
+
+}  // namespace tamur

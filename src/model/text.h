@@ -1,0 +1,86 @@
+// Wide strings inside the model.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "model/arena.h"
+#include "platform/platform.h"
+
+namespace tamur {
+
+using WideView = std::basic_string_view<OLECHAR>;
+
+// A string laid out as a BSTR (32-bit byte length, text, NUL), so that it can be lent to hosts
+// as it is. It lives in an arena or is a constant; null means absent.
+class Text {
+ public:
+    Text() = default;
+    explicit Text(const OLECHAR* text) : text_(text) {}
+
+    [[nodiscard]] bool IsNull() const { return text_ == nullptr; }
+    [[nodiscard]] const OLECHAR* Data() const { return text_; }
+
+    [[nodiscard]] UINT ByteLength() const
+    {
+        std::uint32_t length;
+        std::memcpy(&length, reinterpret_cast<const char*>(text_) - sizeof length, sizeof length);
+        return length;
+    }
+
+    [[nodiscard]] WideView View() const
+    {
+        return IsNull() ? WideView() : WideView(text_, ByteLength() / sizeof(OLECHAR));
+    }
+
+ private:
+    const OLECHAR* text_ = nullptr;
+};
+
+// How much room WriteText takes at most for `length` bytes of text.
+constexpr std::size_t TextRoom(std::size_t length)
+{
+    return sizeof(std::uint32_t) + (length + 1) * sizeof(OLECHAR) + sizeof(std::uint32_t);
+}
+
+// Lays out text of the ANSI code page at `room`, which is 4-byte aligned; returns the end,
+// 4-byte aligned again.
+char* WriteText(char* room, std::string_view text);
+
+// The text at `room`.
+inline Text TextAt(const char* room)
+{
+    return Text(reinterpret_cast<const OLECHAR*>(room + sizeof(std::uint32_t)));
+}
+
+// The place behind a text, where WriteText would put the next.
+inline const char* EndOf(Text text)
+{
+    const std::size_t size = text.ByteLength() + sizeof(OLECHAR);
+    return reinterpret_cast<const char*>(text.Data()) + (size + 3) / 4 * 4;
+}
+
+[[nodiscard]] Text MakeText(Arena& arena, std::string_view text);
+
+// The labels of one element: their number and then the texts, one behind the other as WriteText
+// lays them out, at an 8-byte aligned place of an arena.
+class Labels {
+ public:
+    Labels() = default;
+    explicit Labels(const char* block) : block_(block) {}
+
+    [[nodiscard]] std::uint32_t Count() const
+    {
+        std::uint32_t count = 0;
+        if (block_ != nullptr) std::memcpy(&count, block_, sizeof count);
+        return count;
+    }
+    [[nodiscard]] Text First() const { return TextAt(block_ + sizeof(std::uint32_t)); }
+
+ private:
+    const char* block_ = nullptr;  // null when there are none
+};
+
+}  // namespace tamur

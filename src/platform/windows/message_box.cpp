@@ -1,0 +1,6 @@
+#include "platform/platform.h"
+
+void tamur::platform::ShowMessageBox(const OLECHAR* text, const OLECHAR* caption)
+{
+    MessageBoxW(nullptr, text, caption, 0);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <windows.h>
+
+namespace tamur {
+
+// The library itself, where its resources are.
+HINSTANCE Instance();
+
+}  // namespace tamur

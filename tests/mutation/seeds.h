@@ -1,0 +1,16 @@
+// Small models that together reach every section, every kind of line and every branch.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tamur::test {
+
+struct Seed {
+    std::string name;
+    std::string text;
+};
+
+[[nodiscard]] std::vector<Seed> MutationSeeds();
+
+}  // namespace tamur::test

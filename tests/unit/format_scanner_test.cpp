@@ -1,0 +1,170 @@
+#include "import/scan/format_scanner.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "support/line_generator.h"
+
+namespace tamur {
+namespace {
+
+bool SameReal(double a, double b)
+{
+    return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
+}
+
+#ifndef _WIN32  // the other C library knows neither hexadecimal nor infinities
+
+struct Columns {
+    int integers[3] = {-7, -7, -7};
+    double reals[3] = {-7, -7, -7};
+    std::string words[3] = {"?", "?", "?"};
+    char characters[3] = {'?', '?', '?'};
+
+    bool operator==(const Columns& other) const
+    {
+        for (int i = 0; i < 3; ++i) {
+            if (integers[i] != other.integers[i] || !SameReal(reals[i], other.reals[i]) ||
+                words[i] != other.words[i] || characters[i] != other.characters[i]) {
+                return false;
+            }
+        }
+        return true;
+    }
+};
+
+// One of a few orders of columns, read by the scanner and by the C library.
+Columns Scan(int order, const std::string& line)
+{
+    Columns c;
+    FormatScanner scan(line.c_str());
+    std::string_view words[3] = {"?", "?", "?"};
+    switch (order) {
+        case 0: scan >> words[0] >> c.reals[0] >> c.reals[1] >> c.reals[2]; break;
+        case 1: scan >> c.integers[0] >> c.integers[1] >> words[0] >> words[1]; break;
+        case 2: scan >> c.reals[0] >> c.characters[0] >> c.reals[1] >> c.characters[1]; break;
+        case 3: scan >> c.reals[0] >> words[0] >> c.reals[1] >> words[1]; break;
+        default: scan >> words[0] >> c.integers[0] >> c.reals[0] >> c.characters[0]; break;
+    }
+    for (int i = 0; i < 3; ++i) c.words[i] = words[i];
+    return c;
+}
+
+Columns ScanWithLibrary(int order, const std::string& line)
+{
+    Columns c;
+    char words[3][256] = {"?", "?", "?"};
+    const char* const text = line.c_str();
+    switch (order) {
+        case 0:
+            (void)std::sscanf(text, "%255s%lf%lf%lf", words[0], &c.reals[0], &c.reals[1],
+                              &c.reals[2]);
+            break;
+        case 1:
+            (void)std::sscanf(text, "%d%d%255s%255s", &c.integers[0], &c.integers[1], words[0],
+                              words[1]);
+            break;
+        case 2:
+            (void)std::sscanf(text, "%lf%c%lf%c", &c.reals[0], &c.characters[0], &c.reals[1],
+                              &c.characters[1]);
+            break;
+        case 3:
+            (void)std::sscanf(text, "%lf%255s%lf%255s", &c.reals[0], words[0], &c.reals[1],
+                              words[1]);
+            break;
+        default:
+            (void)std::sscanf(text, "%255s%d%lf%c", words[0], &c.integers[0], &c.reals[0],
+                              &c.characters[0]);
+            break;
+    }
+    for (int i = 0; i < 3; ++i) c.words[i] = words[i];
+    return c;
+}
+
+// Integers beyond 32 bits are where C libraries differ among themselves.
+bool MayHoldHugeInteger(const std::string& line)
+{
+    constexpr int kDigitsThatFit = 9;
+    int run = 0;
+    for (const char c : line) {
+        run = c >= '0' && c <= '9' ? run + 1 : 0;
+        if (run > kDigitsThatFit) return true;
+    }
+    return false;
+}
+
+TEST(FormatScanner, ReadsWhatTheCLibraryReads)
+{
+    test::LineGenerator generator(1976);
+    for (int i = 0; i < 2000000; ++i) {
+        const std::string line = generator.Line();
+        const int order = generator.Below(5);
+        const bool hasIntegers = order == 1 || order == 4;
+        if (hasIntegers && MayHoldHugeInteger(line)) continue;
+        ASSERT_TRUE(Scan(order, line) == ScanWithLibrary(order, line))
+            << "order " << order << " line: '" << line << "'";
+    }
+}
+
+TEST(FormatScanner, WordsConvertAsTheCLibraryConverts)
+{
+    test::LineGenerator generator(1789);
+    for (int i = 0; i < 500000; ++i) {
+        std::string word = generator.Line();
+        word = word.substr(0, word.find_first_of(" \t\r\v\f"));
+        ASSERT_TRUE(SameReal(WordToReal(word), std::strtod(word.c_str(), nullptr))) << word;
+    }
+}
+
+#endif
+
+TEST(FormatScanner, StopsAtTheFirstConversionThatFails)
+{
+    double a = -1, b = -1;
+    std::int32_t c = -1;
+    FormatScanner scan("1.5 abc 3");
+    scan >> a >> b >> c;
+    EXPECT_TRUE(scan.Failed());
+    EXPECT_EQ(a, 1.5);
+    EXPECT_EQ(b, -1);
+    EXPECT_EQ(c, -1);
+}
+
+TEST(FormatScanner, IntegersBeyond32BitsAreClamped)
+{
+    std::int32_t large = 0, small = 0, huge = 0;
+    FormatScanner("2147483648 -2147483649 99999999999999999999999") >> large >> small >> huge;
+    EXPECT_EQ(large, std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(small, std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(huge, std::numeric_limits<std::int32_t>::max());
+}
+
+TEST(FormatScanner, RealsTakeWhatCTakes)
+{
+    double infinite = 0, hexadecimal = 0, large = 0, small = 1;
+    FormatScanner("-INF 0x1.8p1 1e400 1e-400") >> infinite >> hexadecimal >> large >> small;
+    EXPECT_EQ(infinite, -std::numeric_limits<double>::infinity());
+    EXPECT_EQ(hexadecimal, 3.0);
+    EXPECT_EQ(large, std::numeric_limits<double>::infinity());
+    EXPECT_EQ(small, 0.0);
+    double notANumber = 0;
+    FormatScanner("nan") >> notANumber;
+    EXPECT_TRUE(std::isnan(notANumber));
+}
+
+TEST(FormatScanner, WordThatIsNoNumberIsZero)
+{
+    EXPECT_EQ(WordToReal("abc"), 0.0);
+    EXPECT_EQ(WordToReal(""), 0.0);
+    EXPECT_EQ(WordToReal("2.5x"), 2.5);
+    EXPECT_EQ(WordToReal("infi"), std::numeric_limits<double>::infinity());
+}
+
+}  // namespace
+}  // namespace tamur

@@ -1,0 +1,41 @@
+#include "process.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdio>
+
+#include "text.h"
+
+namespace tamur::tool {
+
+std::vector<std::string> Arguments(int, char**)
+{
+    // main() gets its arguments in the code page, where characters may be lost.
+    int count = 0;
+    wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) arguments.push_back(ToUtf8(wide[i]));
+    LocalFree(wide);
+    return arguments;
+}
+
+std::filesystem::path ExecutableFolder()
+{
+    std::wstring path(32768, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return std::filesystem::path(path).parent_path();
+}
+
+void PrepareStreams()
+{
+    SetConsoleOutputCP(CP_UTF8);
+    (void)_setmode(_fileno(stdout), _O_BINARY);
+    (void)_setmode(_fileno(stderr), _O_BINARY);
+}
+
+}  // namespace tamur::tool
