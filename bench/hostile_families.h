@@ -1,0 +1,18 @@
+// Files made to be slow to read.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tamur::bench {
+
+struct HostileFamily {
+    const char* name;
+    // Builds the sections of a file of that size; the settings stand before them.
+    void (*write)(std::string& text, int size);
+    int size;  // takes some tens of milliseconds
+};
+
+[[nodiscard]] const std::vector<HostileFamily>& HostileFamilies();
+
+}  // namespace tamur::bench
