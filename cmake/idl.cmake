@@ -27,9 +27,9 @@ add_custom_command(
 add_custom_command(
     OUTPUT ${generated_dir}/tamur/fields.h
     COMMAND ${CMAKE_COMMAND} -E make_directory ${generated_dir}/tamur
-    COMMAND ${Python3_EXECUTABLE} ${idl_dir}/generate_fields.py ${idl_dir}/TAMURReader.idl
+    COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_fields.py ${idl_dir}/TAMURReader.idl
             ${generated_dir}/tamur/fields.h
-    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/generate_fields.py
+    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/generate_fields.py ${idl_dir}/contract.py
     COMMENT "Contract: fields of the records"
     VERBATIM)
 

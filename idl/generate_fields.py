@@ -5,6 +5,8 @@ usage: generate_fields.py IDL HEADER
 import re
 import sys
 
+from contract import Field, read_contract
+
 HEADER = """// The fields of every record by name. Made from the contract; do not edit.
 //
 // VisitFields(record, visitor) calls, in the published order,
@@ -17,37 +19,22 @@ HEADER = """// The fields of every record by name. Made from the contract; do no
 namespace tamur {
 """
 
-RECORD = re.compile(r"typedef struct (\w+)\s*\{(.*?)\}\s*(\w+);", re.S)
-FIELD = re.compile(r"(?:\[size_is\((?P<count>.*)\)\]\s*)?[\w ]+?(?P<star>\*?)\s+(?P<name>\w+)(?:\[\d+\])?$")
 
-
-def visit_lines(body: str) -> list[str]:
-    lines = []
-    for declaration in re.sub(r"//.*", "", body).split(";"):
-        declaration = declaration.strip()
-        if not declaration:
-            continue
-        field = FIELD.match(declaration)
-        if not field:
-            sys.exit(f"cannot read the field: {declaration}")
-        name = field["name"]
-        if field["count"]:
-            count = re.sub(r"\b([A-Za-z_]\w*)\b(?!')", r"record.\1", field["count"])
-            lines.append(f'    visitor.Array("{name}", record.{name}, {count});')
-        else:
-            lines.append(f'    visitor.Field("{name}", record.{name});')
-    return lines
+def visit_line(field: Field) -> str:
+    name = field.name
+    if not field.count:
+        return f'    visitor.Field("{name}", record.{name});'
+    count = re.sub(r"\b([A-Za-z_]\w*)\b(?!')", r"record.\1", field.count)
+    return f'    visitor.Array("{name}", record.{name}, {count});'
 
 
 def main() -> None:
-    with open(sys.argv[1], encoding="utf-8") as file:
-        idl = file.read()
     parts = [HEADER]
-    for name, body, _ in RECORD.findall(idl):
+    for record in read_contract(sys.argv[1]).records:
         parts.append(
             "template <class Visitor>\n"
-            f"void VisitFields({name}& record, Visitor&& visitor)\n"
-            "{\n" + "\n".join(visit_lines(body)) + "\n}\n")
+            f"void VisitFields({record.name}& record, Visitor&& visitor)\n"
+            "{\n" + "\n".join(visit_line(field) for field in record.fields) + "\n}\n")
     parts.append("}  // namespace tamur\n")
     with open(sys.argv[2], "w", encoding="utf-8") as file:
         file.write("\n".join(parts))

@@ -22,15 +22,6 @@ void ShowCannotOpen(const std::string& path)
     platform::ShowMessageBox(text.c_str(), caption.c_str());
 }
 
-// Versions compare as text, so a major number of one digit gets a 0 in front. So does one of
-// three digits, which makes 100.1 too old.
-bool IsVersionSupported(const std::string& version)
-{
-    const std::size_t point = version.find('.');
-    const bool isPadded = point != version.npos && point != 2;
-    return CompareVersion(isPadded ? "0" + version : version, "10.1") >= 0;
-}
-
 void ReadElements(Model& model, ModelFile& file)
 {
     // Whatever ends the reading, the loads must be whole for the hosts.
@@ -46,6 +37,15 @@ void ReadElements(Model& model, ModelFile& file)
 }
 
 }  // namespace
+
+// Versions compare as text, so a major number of one digit gets a 0 in front. So does one of
+// three digits, which makes 100.1 too old.
+bool IsVersionSupported(const std::string& version)
+{
+    const std::size_t point = version.find('.');
+    const bool isPadded = point != version.npos && point != 2;
+    return CompareVersion(isPadded ? "0" + version : version, "10.1") >= 0;
+}
 
 bool ImportModelFile(Model& model, const std::string& path, OpenFiles& leftOpen,
                      ImportObserver* observer)

@@ -1,7 +1,9 @@
 // What Import accepts and refuses, and what a refusal leaves behind.
 #include <gtest/gtest.h>
 
-#include "support/message_boxes.h"
+#include <atomic>
+
+#include "support/cannot_open.h"
 #include "support/model_text.h"
 #include "support/open_files.h"
 #include "support/texts.h"
@@ -11,22 +13,23 @@ namespace {
 
 const std::string kNode = "1 7 0 1 0 1.5 2.5 0 0 0 0 3";
 
-void ExpectCannotOpen(const CaughtMessageBoxes& boxes, const std::string& path)
-{
-    ASSERT_EQ(boxes.Boxes().size(), 1u);
-    const auto box = boxes.Boxes()[0];
-    EXPECT_EQ(box.caption, "Importation Tamur Structure");
-    EXPECT_EQ(box.text, "Impossible d'ouvrir le fichier Tamur (" + path + ").");
-    EXPECT_EQ(box.style, 0u);
-    EXPECT_FALSE(box.hasOwner);
-}
-
 TEST(Import, MissingFileIsRefusedWithAMessageBox)
 {
     const CaughtMessageBoxes boxes;
     const auto reader = NewReader();
     EXPECT_EQ(ImportFile(*reader, "no-such-file.txt"), E_FAIL);
     ExpectCannotOpen(boxes, "no-such-file.txt");
+}
+
+TEST(Import, WaitsUntilTheMessageBoxIsClosed)
+{
+    std::atomic<bool> hasReturned = false;
+    std::atomic<bool> hadReturned = false;
+    const CaughtMessageBoxes boxes([&] { hadReturned = hasReturned.load(); });
+    ImportFile(*NewReader(), "no-such-file.txt");
+    hasReturned = true;
+    EXPECT_EQ(boxes.Boxes().size(), 1u);
+    EXPECT_FALSE(hadReturned);
 }
 
 TEST(Import, ReadableFileIsImportedWithoutAMessageBox)

@@ -1,6 +1,7 @@
 // The message boxes that the component shows, caught and closed.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,11 +15,12 @@ class CaughtMessageBoxes {
     struct Box {
         std::string caption;  // UTF-8
         std::string text;
-        unsigned style;  // 0: one OK button
+        unsigned style;  // 0: one button, no icon, not on top of other programs
         bool hasOwner;
     };
 
-    CaughtMessageBoxes();
+    // Calls `whileOpen` before each answer, maybe on another thread.
+    explicit CaughtMessageBoxes(std::function<void()> whileOpen = nullptr);
     CaughtMessageBoxes(const CaughtMessageBoxes&) = delete;
     CaughtMessageBoxes& operator=(const CaughtMessageBoxes&) = delete;
     ~CaughtMessageBoxes();

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "support/component_under_test.h"
 #include "support/message_boxes.h"
 
@@ -5,13 +7,18 @@ namespace tamur::test {
 
 struct CaughtMessageBoxes::State {
     std::vector<Box> boxes;
+    std::function<void()> whileOpen;
 };
 
-CaughtMessageBoxes::CaughtMessageBoxes() : state_(std::make_unique<State>())
+CaughtMessageBoxes::CaughtMessageBoxes(std::function<void()> whileOpen)
+    : state_(std::make_unique<State>())
 {
+    state_->whileOpen = std::move(whileOpen);
     const auto note = [](const OLECHAR* text, const OLECHAR* caption, UINT style, void* context) {
-        static_cast<State*>(context)->boxes.push_back(
+        State& state = *static_cast<State*>(context);
+        state.boxes.push_back(
             {Utf8(WideStringView(caption)), Utf8(WideStringView(text)), style, false});
+        if (state.whileOpen) state.whileOpen();
         return 1;
     };
     TamurSetMessageBoxHandler(note, state_.get());

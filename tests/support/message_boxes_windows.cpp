@@ -2,6 +2,7 @@
 #include <chrono>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 #include "support/component_under_test.h"
 #include "support/message_boxes.h"
@@ -11,8 +12,6 @@ namespace {
 
 constexpr wchar_t kDialogClass[] = L"#32770";
 constexpr int kTextControl = 0xFFFF;
-constexpr int kOkButton = 1;
-constexpr int kCancelButton = 2;
 
 std::string TextOf(HWND window)
 {
@@ -21,38 +20,75 @@ std::string TextOf(HWND window)
     return Utf8(WideStringView(text));
 }
 
+// The dialog of this process that is on the screen; null when there is none. Other processes may
+// show boxes of their own at the same time.
+HWND FindOpenBox()
+{
+    HWND box = nullptr;
+    while ((box = FindWindowExW(nullptr, box, kDialogClass, nullptr)) != nullptr) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(box, &process);
+        // A visible one is set up completely.
+        if (process == GetCurrentProcessId() && IsWindowVisible(box)) return box;
+    }
+    return nullptr;
+}
+
+template <class Matches>
+int CountControls(HWND box, const wchar_t* controlClass, Matches matches)
+{
+    int count = 0;
+    HWND control = nullptr;
+    while ((control = FindWindowExW(box, control, controlClass, nullptr)) != nullptr) {
+        if (matches(control)) ++count;
+    }
+    return count;
+}
+
+// A style cannot be asked for: this is how its bits for buttons, icon and modality look.
+bool IsPlain(HWND box)
+{
+    const auto hasIcon = [](HWND text) { return SendMessageW(text, STM_GETICON, 0, 0) != 0; };
+    const bool isOnTop = (GetWindowLongW(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    return CountControls(box, L"Button", IsWindowVisible) == 1 &&
+           CountControls(box, L"Static", hasIcon) == 0 && !isOnTop;
+}
+
 }  // namespace
 
 struct CaughtMessageBoxes::State {
     mutable std::mutex mutex;
     std::vector<Box> boxes;
+    std::function<void()> whileOpen;
     std::atomic<bool> ends = false;
     std::thread closer;
 
     void CloseBoxes()
     {
         while (!ends) {
-            HWND box = FindWindowW(kDialogClass, L"Importation Tamur Structure");
-            if (box != nullptr && IsWindowVisible(box)) Close(box);  // set up completely
+            if (HWND box = FindOpenBox()) Close(box);
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
     }
 
     void Close(HWND box)
     {
-        const bool hasOneButton = GetDlgItem(box, kCancelButton) == nullptr;
         {
             const std::lock_guard lock(mutex);
             boxes.push_back({TextOf(box), TextOf(GetDlgItem(box, kTextControl)),
-                             hasOneButton ? 0u : 1u, GetWindow(box, GW_OWNER) != nullptr});
+                             IsPlain(box) ? 0u : 1u, GetWindow(box, GW_OWNER) != nullptr});
         }
-        SendMessageW(GetDlgItem(box, kOkButton), BM_CLICK, 0, 0);
+        if (whileOpen) whileOpen();
+        // Found by its class: a lone OK button may have the number of OK or that of Cancel.
+        SendMessageW(FindWindowExW(box, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
         while (IsWindow(box) && !ends) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
 };
 
-CaughtMessageBoxes::CaughtMessageBoxes() : state_(std::make_unique<State>())
+CaughtMessageBoxes::CaughtMessageBoxes(std::function<void()> whileOpen)
+    : state_(std::make_unique<State>())
 {
+    state_->whileOpen = std::move(whileOpen);
     state_->closer = std::thread([this] { state_->CloseBoxes(); });
 }
 

@@ -14,12 +14,12 @@
 namespace tamur {
 namespace {
 
+#ifndef _WIN32  // the other C library knows neither hexadecimal nor infinities
+
 bool SameReal(double a, double b)
 {
     return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
 }
-
-#ifndef _WIN32  // the other C library knows neither hexadecimal nor infinities
 
 struct Columns {
     int integers[3] = {-7, -7, -7};

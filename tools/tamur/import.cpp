@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "import/driver.h"
 #include "message_boxes.h"
 #include "process.h"
 #include "text.h"
@@ -42,6 +43,8 @@ std::string WhyRefused(const std::string& file, bool wasBoxShown)
     if (!wasBoxShown) return "a section is missing: #Espace, #Tolerance and #Rigide are needed";
     const std::string version = VersionOf(file);
     if (version.empty()) return "no version: this is no model file";
+    // On Windows the component's path is one of the ANSI code page.
+    if (IsVersionSupported(version)) return "the component cannot open a file of this name";
     return "version " + version + " is too old: 10.1 or later is needed";
 }
 

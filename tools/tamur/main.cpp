@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "check.h"
 #include "dump.h"
 #include "import.h"
 #include "info.h"
@@ -26,8 +27,25 @@ struct CommandLine {
     std::string component;
     std::string file;
     bool isPretty = false;
-    bool isDump = false;
+    void (*write)(const CommandLine& line, ITAMURStructureReader& reader,
+                  std::ostream& out) = nullptr;
 };
+
+void Info(const CommandLine& line, ITAMURStructureReader& reader, std::ostream& out)
+{
+    WriteInfo(reader, line.file, out);
+}
+
+void Dump(const CommandLine& line, ITAMURStructureReader& reader, std::ostream& out)
+{
+    WriteDump(reader, line.isPretty, out);
+}
+
+void Check(const CommandLine& line, ITAMURStructureReader&, std::ostream& out)
+{
+    const std::size_t findings = WriteCheck(line.file, out);
+    if (findings == 0) out << "nothing was dropped or replaced\n";
+}
 
 // Nothing when the command line is answered by itself, by a help text.
 std::optional<CommandLine> ReadCommandLine(std::vector<std::string> arguments)
@@ -44,14 +62,16 @@ std::optional<CommandLine> ReadCommandLine(std::vector<std::string> arguments)
     app.require_subcommand(1);
     app.allow_windows_style_options(false);  // paths too may start with a slash
 
-    const auto addCommand = [&](const char* name, const char* description) {
+    const auto addCommand = [&](const char* name, const char* description, auto write) {
         CLI::App* const command = app.add_subcommand(name, description);
         command->add_option("FILE", line.file, "the model file")->required()->type_name("");
+        command->callback([&line, write] { line.write = write; });
         return command;
     };
-    addCommand("info", "settings, extent, how many there are of everything, messages");
-    CLI::App* const dump = addCommand("dump", "every record as JSON, one per line");
-    dump->add_flag("--pretty", line.isPretty, "one value per line");
+    addCommand("info", "settings, extent, how many there are of everything, messages", Info);
+    addCommand("check", "the lines that the import drops or changes, and why", Check);
+    addCommand("dump", "every record as JSON, one per line", Dump)
+        ->add_flag("--pretty", line.isPretty, "one value per line");
 
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
@@ -60,7 +80,6 @@ std::optional<CommandLine> ReadCommandLine(std::vector<std::string> arguments)
         app.exit(answer);
         return std::nullopt;
     }
-    line.isDump = dump->parsed();
     return line;
 }
 
@@ -68,11 +87,7 @@ void Write(const CommandLine& line, std::ostream& out)
 {
     const tamur::Component component = LoadComponent(line.component);
     const auto reader = Import(component, line.file);
-    if (line.isDump) {
-        WriteDump(*reader, line.isPretty, out);
-    } else {
-        WriteInfo(*reader, line.file, out);
-    }
+    line.write(line, *reader, out);
     if (!out.flush()) throw std::runtime_error("the output cannot be written");
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "import/scan/characters.h"
+#include "import/scan/decimal.h"
 #include "import/scan/digits.h"
 #include "import/scan/token_window.h"
 
@@ -135,53 +136,10 @@ class StreamScanner {
         return true;
     }
 
-    // A decimal number of at most 15 digits without an exponent: the digits are an exact
-    // integer, the power of ten is exact, so their quotient is the nearest double.
     static bool IsShortNumber(const char* at, const char* end, double& value)
     {
-        const bool isNegative = *at == '-';
-        at += isNegative;
-        const std::uint64_t whole = LoadWord(at);
-        const int wholeDigits = LeadingDigits(whole);
-        if (static_cast<unsigned>(wholeDigits - 1) >= 7) return false;
-        at += wholeDigits;
-        std::uint64_t number = DigitsToInteger(whole, wholeDigits);
-        std::ptrdiff_t fractionDigits = 0;
-        if (at != end) {
-            if (*at++ != '.') return false;
-            fractionDigits = end - at;
-            if (!AppendFraction(at, fractionDigits, wholeDigits, number)) return false;
-        }
-        const double magnitude =
-            static_cast<double>(static_cast<std::int64_t>(number)) / kRealPowers[fractionDigits];
-        value = isNegative ? -magnitude : magnitude;
-        return true;
+        return kHasShuffle ? PlainDecimalByShuffle(at, end, value) : PlainDecimal(at, end, value);
     }
-
-    // Appends `digits` digits to a number that has `wholeDigits`; false when they are not all
-    // digits or too many.
-    static bool AppendFraction(const char* at, std::ptrdiff_t digits, int wholeDigits,
-                               std::uint64_t& number)
-    {
-        if (digits + wholeDigits > 15) return false;
-        std::uint64_t fraction = LoadWord(at);
-        if (digits > 8) {
-            if (LeadingDigits(fraction) != 8) return false;
-            number = number * kPowers[8] + DigitsToInteger(fraction, 8);
-            digits -= 8;
-            fraction = LoadWord(at + 8);
-        }
-        if (LeadingDigits(fraction) < digits) return false;
-        if (digits > 0) {
-            number = number * kPowers[digits] + DigitsToInteger(fraction, static_cast<int>(digits));
-        }
-        return true;
-    }
-
-    static constexpr std::uint64_t kPowers[9] = {1,      10,      100,      1000,     10000,
-                                                 100000, 1000000, 10000000, 100000000};
-    static constexpr double kRealPowers[16] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
     const char* at_;
     const char* end_;

@@ -6,14 +6,8 @@
 #include "server/windows/instance.h"
 
 namespace tamur {
-namespace {
 
-// The registrar of the system, which runs scripts that are resources.
-constexpr CLSID kRegistrarClass = {
-    0x44EC053A, 0x400F, 0x11D0, {0x9D, 0xCD, 0x00, 0xA0, 0xC9, 0x03, 0x91, 0xD3}};
-constexpr IID kRegistrarInterface = {
-    0x44EC053B, 0x400F, 0x11D0, {0x9D, 0xCD, 0x00, 0xA0, 0xC9, 0x03, 0x91, 0xD3}};
-
+// Not in the unnamed namespace: the compiler would conclude that nobody implements it.
 struct IRegistrar : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE AddReplacement(LPCOLESTR key, LPCOLESTR item) = 0;
     virtual HRESULT STDMETHODCALLTYPE ClearReplacements() = 0;
@@ -29,6 +23,14 @@ struct IRegistrar : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE ResourceUnregister(LPCOLESTR file, UINT id,
                                                          LPCOLESTR type) = 0;
 };
+
+namespace {
+
+// The registrar of the system, which runs scripts that are resources.
+constexpr CLSID kRegistrarClass = {
+    0x44EC053A, 0x400F, 0x11D0, {0x9D, 0xCD, 0x00, 0xA0, 0xC9, 0x03, 0x91, 0xD3}};
+constexpr IID kRegistrarInterface = {
+    0x44EC053B, 0x400F, 0x11D0, {0x9D, 0xCD, 0x00, 0xA0, 0xC9, 0x03, 0x91, 0xD3}};
 
 template <class Interface>
 class Reference {
