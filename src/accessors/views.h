@@ -19,6 +19,17 @@ namespace tamur {
 // A model without anything in it.
 const Model& NoModel();
 
+// Hosts read one rank after the other, and labels lie where the file had them: those of a record
+// soon to be read are fetched meanwhile.
+template <class Records>
+void PrefetchLabels(const Records& records, std::size_t rank)
+{
+    constexpr std::size_t kAhead = 4;
+    if constexpr (requires { records[rank].labels; }) {
+        if (rank + kAhead < records.Size()) records[rank + kAhead].labels.Prefetch();
+    }
+}
+
 // The records that the table held when the view was made.
 template <class Record>
 class ArrayView {
@@ -64,6 +75,7 @@ class LiveView {
     [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
     [[nodiscard]] const auto& At(LONG rank) const
     {
+        PrefetchLabels(records_, static_cast<std::size_t>(rank));
         return records_[static_cast<std::size_t>(rank)];
     }
     [[nodiscard]] const Model& TheModel() const { return model_; }
@@ -118,6 +130,7 @@ class BarsCopy {
     [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
     [[nodiscard]] const Bar& At(LONG rank) const
     {
+        PrefetchLabels(model_->bars, static_cast<std::size_t>(rank));
         return model_->bars[static_cast<std::size_t>(rank)];
     }
     [[nodiscard]] const Model& TheModel() const { return *model_; }

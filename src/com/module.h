@@ -27,7 +27,7 @@ class Module {
     void Init(ObjectMapEntry* map, REFGUID libraryId);
     void Term();
 
-    // The objects and class objects of the component that are alive, and the host's own locks.
+    // The objects that are alive, the class objects that hosts hold, and the hosts' own locks.
     LONG Lock() { return ++lockCount_; }
     LONG Unlock() { return --lockCount_; }
     [[nodiscard]] LONG LockCount() const { return lockCount_; }

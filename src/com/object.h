@@ -20,9 +20,10 @@ class ModuleLock {
     ~ModuleLock() { TheModule().Unlock(); }
 };
 
-// An object of its own. Counts for one thread: an object stays in its apartment.
+// An object of its own. Counts for one thread: an object stays in its apartment. The module is
+// locked for longer than any part of the object lives.
 template <class Base>
-class CComObject final : public Base {
+class CComObject final : private ModuleLock, public Base {
  public:
     template <class... Arguments>
     explicit CComObject(Arguments&&... arguments) : Base(std::forward<Arguments>(arguments)...)
@@ -42,7 +43,6 @@ class CComObject final : public Base {
     }
 
  private:
-    ModuleLock lock_;
     ULONG references_ = 0;
 };
 

@@ -12,7 +12,8 @@ struct SectionName {
 };
 
 // Rewrites a T, I or H name from the dimensions that are drawn to the dimensions that are named.
-// A name of another form, or with negative or missing dimensions, stays as written.
+// A name of another form, or with one of the first four dimensions negative or missing, stays as
+// written.
 [[nodiscard]] SectionName NormaliseSectionName(std::string_view name);
 
 }  // namespace tamur

@@ -19,7 +19,7 @@ using WideString = std::basic_string<OLECHAR>;
 std::size_t WidenAnsi(const char* text, std::size_t length, OLECHAR* wide);
 
 // The path as the file functions take it: ANSI code page on Windows, UTF-8 elsewhere, ended at
-// the first NUL. Characters without a counterpart become "?".
+// the first NUL. Characters without a counterpart become a similar one or "?".
 std::string NarrowPath(const OLECHAR* path);
 WideString WidenPath(const std::string& path);
 
