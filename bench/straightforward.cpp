@@ -264,7 +264,7 @@ Text Widen(const std::string& text)
 
 void Import(Model& model, const std::filesystem::path& path)
 {
-    const File file(std::fopen(path.c_str(), "rt"), &std::fclose);
+    const File file(std::fopen(path.string().c_str(), "rt"), &std::fclose);
     if (file == nullptr) throw std::runtime_error("cannot read " + path.string());
     ReadSettings(model, file.get());
     ReadGroups(model, file.get());
