@@ -1,5 +1,5 @@
 // The DLL beside the straightforward implementation built the same way, under Wine or on Windows.
-// usage: tamur_bench_windows FILE  
+// usage: tamur_bench_windows FILE
 #include <tamur/component.h>
 
 #include <algorithm>
@@ -41,9 +41,8 @@ int main(int count, char** arguments)
     const tamur::String name(file.c_str());
     std::vector<double> ours, straightforward;
     for (int round = 0; round < kRounds; ++round) {
-        ours.push_back(Seconds([&] {
-            tamur::Check(component.CreateReader()->Import(name.Get()), "Import");
-        }));
+        ours.push_back(
+            Seconds([&] { tamur::Check(component.CreateReader()->Import(name.Get()), "Import"); }));
         straightforward.push_back(Seconds([&] {
             tamur::bench::straightforward::Model model;
             tamur::bench::straightforward::Import(model, file);

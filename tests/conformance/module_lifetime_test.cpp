@@ -126,7 +126,7 @@ class CopiedComponent : public testing::Test {
 
 TEST_F(CopiedComponent, IsLoadedAndUnloadedOverAndOver)
 {
-    constexpr int kCycles = 200;
+    constexpr int kCycles = 1000;
     for (int i = 0; i < kCycles; ++i) {
         LoadUseAndUnload();
         ASSERT_FALSE(IsLoaded()) << "after " << i << " cycles";
