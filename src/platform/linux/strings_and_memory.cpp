@@ -15,19 +15,24 @@ std::uint32_t& ByteLength(BSTR text)
     return *reinterpret_cast<std::uint32_t*>(reinterpret_cast<char*>(text) - sizeof(std::uint32_t));
 }
 
+// Copies between one and two pieces' worth of bytes: the first and the last, which may overlap.
+template <class Piece>
+void CopyEnds(char* to, const char* from, std::size_t size)
+{
+    Piece first, last;
+    std::memcpy(&first, from, sizeof first);
+    std::memcpy(&last, from + size - sizeof last, sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(to + size - sizeof last, &last, sizeof last);
+}
+
 // Most strings are short: a call for a few bytes would cost more than copying them.
 void CopyBytes(char* to, const char* from, std::size_t size)
 {
-    const auto copyEnds = [&]<class Piece>(Piece first, Piece last) {
-        std::memcpy(&first, from, sizeof first);
-        std::memcpy(&last, from + size - sizeof last, sizeof last);
-        std::memcpy(to, &first, sizeof first);
-        std::memcpy(to + size - sizeof last, &last, sizeof last);
-    };
     if (size >= 8 && size <= 16) {
-        copyEnds(std::uint64_t{}, std::uint64_t{});
+        CopyEnds<std::uint64_t>(to, from, size);
     } else if (size >= 4 && size < 8) {
-        copyEnds(std::uint32_t{}, std::uint32_t{});
+        CopyEnds<std::uint32_t>(to, from, size);
     } else {
         std::memcpy(to, from, size);
     }
