@@ -1,7 +1,5 @@
 #include "accessors/message_accessor.h"
 
-#include <new>
-
 #include "accessors/accessor_interface.h"
 #include "model/prompts.h"
 
@@ -13,7 +11,7 @@ CTMRMessageAccessor::CTMRMessageAccessor(const Table<ImportMessage>& messages)
     for (std::size_t i = 0; i < messages.Size(); ++i) {
         const platform::WideString text = FormatPrompt(messages[i].prompt, messages[i].caseNumber);
         texts_.emplace_back(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
-        if (texts_.back() == nullptr) throw std::bad_alloc();
+        if (texts_.back() == nullptr) platform::ThrowBadAlloc();
     }
 }
 

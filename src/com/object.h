@@ -3,9 +3,9 @@
 // reference counts; these wrappers do.
 #pragma once
 
-#include <new>
 #include <utility>
 
+#include "com/guarded.h"
 #include "com/module.h"
 #include "com/unknown.h"
 
@@ -101,11 +101,11 @@ HRESULT HandOut(Object& created, REFIID riid, void** object)
 // Creates an instance of Base: inside an aggregate when there is an outer object.
 template <class Base>
 HRESULT CreateInstance(IUnknown* outer, REFIID riid, void** object) noexcept
-try {
-    if (outer == nullptr) return HandOut(*new CComObject<Base>, riid, object);
-    return HandOut(*new CComAggObject<Base>(outer), riid, object);
-} catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
+{
+    return Guarded([&] {
+        return outer == nullptr ? HandOut(*new CComObject<Base>, riid, object)
+                                : HandOut(*new CComAggObject<Base>(outer), riid, object);
+    });
 }
 
 }  // namespace tamur::com

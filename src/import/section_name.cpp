@@ -74,16 +74,15 @@ std::string WideTee(const Dimensions& n)
 }
 
 // The part at the end is the narrower one: its thickness and position take part in each half.
+// The right half always has a width: without one the web would stand in the middle.
 std::string NarrowTee(const Dimensions& n)
 {
     const bool isFlat = IsZero(n.b);
     const bool hasNoLeft = IsZero(n.e);
-    const bool hasNoRight = IsZero((n.a - n.c) - n.e);
     const double leftWidth = isFlat ? 0 : n.e;
     const double rightWidth = isFlat ? 0 : n.c - n.a - n.e;
     return Compose('T', {n.a, n.s1, n.d + n.b, n.s2, leftWidth, n.s1, hasNoLeft ? 0 : n.d, '/',
-                         hasNoLeft ? 0 : n.b, n.s2, rightWidth, n.s1, hasNoRight ? 0 : n.d, '/',
-                         hasNoRight ? 0 : n.b});
+                         hasNoLeft ? 0 : n.b, n.s2, rightWidth, n.s1, n.d, '/', n.b});
 }
 
 std::string NormaliseTee(const Dimensions& n)

@@ -30,11 +30,6 @@ class Text {
         return length;
     }
 
-    [[nodiscard]] WideView View() const
-    {
-        return IsNull() ? WideView() : WideView(text_, ByteLength() / sizeof(OLECHAR));
-    }
-
  private:
     const OLECHAR* text_ = nullptr;
 };

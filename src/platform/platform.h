@@ -29,6 +29,12 @@ void ShowMessageBox(const OLECHAR* text, const OLECHAR* caption);
 // Ends the process as the run time does when a caller breaks a contract.
 [[noreturn]] void FailContract(const char* what);
 
+// Running out of memory is an error here, not the end of the process, but throwing an exception can
+// take memory itself. What may throw std::bad_alloc is begun by seeing to it that there will be
+// some; false when even that cannot be had.
+[[nodiscard]] bool PrepareForBadAlloc() noexcept;
+[[noreturn]] void ThrowBadAlloc();
+
 // Memory in large pieces, uninitialised and 8-byte aligned. Throws std::bad_alloc.
 [[nodiscard]] void* AllocateBlock(std::size_t size);
 void FreeBlock(void* block) noexcept;

@@ -1,28 +1,18 @@
 #include "reader/structure_reader.h"
 
-#include <new>
-
 #include "accessors/charge_accessor.h"
 #include "accessors/element_accessors.h"
 #include "accessors/leading_accessors.h"
 #include "accessors/message_accessor.h"
 #include "accessors/node_accessor.h"
 #include "accessors/support_accessors.h"
+#include "com/guarded.h"
 #include "com/object.h"
 
 namespace tamur {
 namespace {
 
-// Turns whatever a body throws into its result code: no exception leaves the component.
-template <class Body>
-HRESULT Guarded(Body body) noexcept
-try {
-    return body();
-} catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-} catch (...) {
-    return E_UNEXPECTED;
-}
+using com::Guarded;
 
 // Makes an accessor of that class over a table and gives the host its only reference.
 template <class Class, class Source, class Interface>

@@ -10,18 +10,24 @@ namespace tamur::test {
 struct AccessorKind {
     const char* name;  // of its interface
     const IID* id;
-    ComPtr<IUnknown> (*make)(ITAMURStructureReader&);
+    HRESULT (*get)(ITAMURStructureReader&, IUnknown**);
     bool supportsErrorInfo = false;
+
+    [[nodiscard]] ComPtr<IUnknown> make(ITAMURStructureReader& reader) const
+    {
+        ComPtr<IUnknown> accessor;
+        Check(get(reader, accessor.Put()), "getting an accessor");
+        return accessor;
+    }
 };
 
 template <class Accessor, AccessorGetter<Accessor> get>
-ComPtr<IUnknown> MakeAccessor(ITAMURStructureReader& reader)
+HRESULT GetAsUnknown(ITAMURStructureReader& reader, IUnknown** out)
 {
     Accessor* accessor = nullptr;
-    Check((reader.*get)(&accessor), "getting an accessor");
-    ComPtr<IUnknown> owner;
-    *owner.Put() = accessor;
-    return owner;
+    const HRESULT result = (reader.*get)(&accessor);
+    *out = accessor;
+    return result;
 }
 
 // In the order in which the reader's interface has them.
@@ -29,7 +35,7 @@ inline const std::vector<AccessorKind>& AccessorKinds()
 {
 #define KIND(stem)                                      \
     "ITMR" #stem "Accessor", &IID_ITMR##stem##Accessor, \
-        MakeAccessor<ITMR##stem##Accessor, &ITAMURStructureReader::Get##stem##Accessor>
+        GetAsUnknown<ITMR##stem##Accessor, &ITAMURStructureReader::Get##stem##Accessor>
     static const std::vector<AccessorKind> kinds = {
         {KIND(Material)},        {KIND(Section)},
         {KIND(Attache)},         {KIND(Groupe)},

@@ -67,9 +67,9 @@ std::vector<ObjectKind> ObjectKinds()
     for (const AccessorKind& accessor : AccessorKinds()) {
         ObjectKind kind = {accessor.name, {&IID_IUnknown, &IID_IGenericAccessor, accessor.id}, {}};
         if (accessor.supportsErrorInfo) kind.interfaces.push_back(&IID_ISupportErrorInfo);
-        kind.make = [make = accessor.make] {
+        kind.make = [&accessor] {
             LiveObject live = {NewReader(), {}};
-            live.object = make(*live.reader);
+            live.object = accessor.make(*live.reader);
             return live;
         };
         kinds.push_back(kind);

@@ -1,81 +1,94 @@
 // Imports changed models, one after the other, and reads everything that came of each. There is
-// nothing to compare with: that it ends, without a crash, a leak or a word from a sanitizer, is the
-// test. usage: mutation_tests [SHARE]: takes every SHARE-th change, 20 when it is not given.
+// nothing to compare with: that it ends, without a crash, a leak, too much memory or a word from a
+// sanitizer, is the test. usage: mutation_tests [SHARE [FIRST]]: takes every SHARE-th change (20)
+// from that number (0) on.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <string>
 
+#include "failures/memory_limit.h"
+#include "failures/quiet_boxes.h"
 #include "mutation/mutations.h"
+#include "mutation/scratch_file.h"
 #include "mutation/seeds.h"
 #include "support/component_under_test.h"
-#include "support/message_boxes.h"
 #include "support/read_everything.h"
 
 namespace tamur::test {
 namespace {
 
-// One file, written over and over.
-class Scratch {
- public:
-    Scratch()
-    {
-        const std::filesystem::path memory = "/dev/shm";
-        folder_ = std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
-        path_ = folder_ / ("tamur-mutation-" + std::to_string(std::rand()) + ".txt");
-    }
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
-    ~Scratch() { std::filesystem::remove(path_); }
-
-    void Write(const std::string& content) const
-    {
-        std::FILE* const file = std::fopen(path_.string().c_str(), "wb");
-        if (file == nullptr ||
-            std::fwrite(content.data(), 1, content.size(), file) != content.size()) {
-            std::perror("scratch file");
-            std::exit(2);
-        }
-        (void)std::fclose(file);
-    }
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
- private:
-    std::filesystem::path folder_;
-    std::filesystem::path path_;
+// The file that took most memory.
+struct Greediest {
+    std::int64_t bytes = 0;
+    std::size_t fileSize = 0;
 };
 
-std::size_t Run(std::size_t share)
-{
-    const CaughtMessageBoxes boxes;
-    const Scratch scratch;
-    const String path(Wide(scratch.Path().string()).c_str());
-    std::size_t files = 0;
-    std::size_t number = 0;
-    for (const Seed& seed : MutationSeeds()) {
-        const Mutations mutations(seed.text);
-        for (std::size_t i = 0; i < mutations.Count(); ++i) {
-            if (number++ % share != 0) continue;
-            scratch.Write(mutations.Apply(i));
-            const auto reader = NewReader();
-            (void)reader->Import(path.Get());
-            (void)ReadEverything(*reader);
-            ++files;
+class Run {
+ public:
+    Run(std::size_t share, std::size_t first) : share_(share), next_(first) {}
+
+    // False when a file broke a rule.
+    bool TryAll()
+    {
+        for (const Seed& seed : MutationSeeds()) {
+            const Mutations mutations(seed.text);
+            for (; next_ < before_ + mutations.Count(); next_ += share_) {
+                if (Try(mutations.Apply(next_ - before_))) continue;
+                std::printf("%s, change %zu: took too much memory or kept some\n",
+                            seed.name.c_str(), next_ - before_);
+                return false;
+            }
+            before_ += mutations.Count();
         }
+        return files_ != 0;
     }
-    return files;
-}
+
+    void PrintTotals() const
+    {
+        std::printf(
+            "%zu changed models imported and read in full; the greediest import took %lld "
+            "bytes for a file of %zu\n",
+            files_, static_cast<long long>(greediest_.bytes), greediest_.fileSize);
+    }
+
+ private:
+    bool Try(const std::string& text)
+    {
+        scratch_.Write(text);
+        ++files_;
+        const MemoryWatch memory;
+        std::int64_t peak = 0;
+        {
+            const auto reader = NewReader();
+            (void)reader->Import(path_.Get());
+            peak = memory.PeakBytes();
+            (void)ReadEverything(*reader);
+        }
+        if (peak > greediest_.bytes) greediest_ = {peak, text.size()};
+        return peak <= MemoryLimit(text.size()) && memory.BlocksAlive() == 0;
+    }
+
+    const QuietBoxes boxes_;
+    const ComPtr<ITAMURStructureReader> first_ = NewReader();  // keeps the class object
+    const ScratchFile scratch_;
+    const String path_{Wide(scratch_.Path().string()).c_str()};
+    std::size_t share_;
+    std::size_t next_;        // number of the next change, over all seeds
+    std::size_t before_ = 0;  // changes of the seeds before
+    std::size_t files_ = 0;
+    Greediest greediest_;
+};
 
 }  // namespace
 }  // namespace tamur::test
 
 int main(int count, char** arguments)
 {
-    std::srand(static_cast<unsigned>(
-        std::filesystem::file_time_type::clock::now().time_since_epoch().count()));
-    const std::size_t share = count > 1 ? std::strtoul(arguments[1], nullptr, 10) : 20;
-    const std::size_t files = tamur::test::Run(share == 0 ? 1 : share);
-    std::printf("%zu changed models imported and read in full\n", files);
-    return 0;
+    const auto argument = [&](int i, std::size_t otherwise) {
+        return i < count ? std::strtoul(arguments[i], nullptr, 10) : otherwise;
+    };
+    tamur::test::Run run(std::max<std::size_t>(argument(1, 20), 1), argument(2, 0));
+    const bool isFine = run.TryAll();
+    run.PrintTotals();
+    return isFine ? 0 : 1;
 }

@@ -1,7 +1,6 @@
 #include <sys/mman.h>
 
 #include <cstdlib>
-#include <new>
 
 #include "platform/platform.h"
 
@@ -12,7 +11,7 @@ void* AllocateBlock(std::size_t size)
     constexpr std::size_t kLargePage = std::size_t{2} << 20;
     const bool isLarge = size >= kLargePage && size % kLargePage == 0;
     void* const block = isLarge ? std::aligned_alloc(kLargePage, size) : std::malloc(size);
-    if (block == nullptr) throw std::bad_alloc();
+    if (block == nullptr) ThrowBadAlloc();
     // Touching memory for the first time is a good part of an import; large pages make it rare.
     if (isLarge) (void)madvise(block, size, MADV_HUGEPAGE);
     return block;

@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <new>
 
 #include "platform/platform.h"
@@ -7,14 +6,12 @@ namespace tamur::platform {
 
 void* AllocateBlock(std::size_t size)
 {
-    void* const block = std::malloc(size);
-    if (block == nullptr) throw std::bad_alloc();
-    return block;
+    return ::operator new(size);
 }
 
 void FreeBlock(void* block) noexcept
 {
-    std::free(block);
+    ::operator delete(block);
 }
 
 }  // namespace tamur::platform

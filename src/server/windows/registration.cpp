@@ -1,7 +1,6 @@
 #include "server/registration.h"
 
-#include <new>
-
+#include "com/guarded.h"
 #include "com/module.h"
 #include "server/windows/instance.h"
 
@@ -75,15 +74,6 @@ platform::WideString Quoted(const platform::WideString& path)
     return quoted;
 }
 
-// Registration never throws into the host.
-template <class Body>
-HRESULT Guarded(Body body) noexcept
-try {
-    return body();
-} catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-}
-
 HRESULT RunScript(unsigned resource, BOOL doRegister)
 {
     Reference<IRegistrar> registrar;
@@ -101,12 +91,12 @@ HRESULT RunScript(unsigned resource, BOOL doRegister)
 
 HRESULT RunRegistryScript(unsigned resource, BOOL doRegister)
 {
-    return Guarded([&] { return RunScript(resource, doRegister); });
+    return com::Guarded([&] { return RunScript(resource, doRegister); });
 }
 
 HRESULT RegisterTypeLibrary()
 {
-    return Guarded([] {
+    return com::Guarded([] {
         platform::WideString path = ModulePath();
         Reference<ITypeLib> library;
         const HRESULT result = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &library);
@@ -116,7 +106,7 @@ HRESULT RegisterTypeLibrary()
 
 HRESULT UnregisterTypeLibrary()
 {
-    return Guarded([] {
+    return com::Guarded([] {
         Reference<ITypeLib> library;
         const HRESULT result = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, &library);
         if (FAILED(result)) return result;

@@ -1,0 +1,78 @@
+// No file makes an import take memory out of proportion to its size.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "conformance/every_table.h"
+#include "failures/memory_limit.h"
+#include "failures/quiet_boxes.h"
+#include "hostile_families.h"
+
+namespace tamur::test {
+namespace {
+
+// Imports it; the memory that this took at most, in bytes.
+std::int64_t PeakOfImport(const std::string& text)
+{
+    const TemporaryFile file(text);
+    const String name(Wide(file.Path().string()).c_str());
+    (void)NewReader();  // the class object stays
+    const MemoryWatch memory;
+    (void)NewReader()->Import(name.Get());
+    EXPECT_EQ(memory.BlocksAlive(), 0);
+    return memory.PeakBytes();
+}
+
+TEST(MemoryInProportion, FilesMadeToBeSlowStayWithinTheLimit)
+{
+    constexpr std::size_t kSmall = 100000;
+    const QuietBoxes boxes;
+    double largest = 0;
+    for (const bench::HostileFamily& family : bench::HostileFamilies()) {
+        SCOPED_TRACE(family.name);
+        for (const int size : {1, family.size / 100, family.size}) {
+            std::string text = ModelText().Text();
+            family.write(text, size);
+            const std::int64_t peak = PeakOfImport(text);
+            EXPECT_LE(peak, MemoryLimit(text.size())) << size;
+            const double times = static_cast<double>(peak) / static_cast<double>(text.size());
+            // Small files take the buffers of any import.
+            if (text.size() > kSmall) largest = std::max(largest, times);
+        }
+    }
+    RecordProperty("largest peak in times the file", std::to_string(largest));
+}
+
+TEST(MemoryInProportion, CountsWithoutAnythingBehindThemTakeNothing)
+{
+    const QuietBoxes boxes;
+    const std::string huge[] = {"2147483647", "4294967295", "99999999999", "1000000"};
+    const std::int64_t usual = PeakOfImport(EveryTable().Text());
+    for (const std::string& count : huge) {
+        const std::string lines[] = {
+            "#Groupes\n2 " + count + " 2 P Oui\n",
+            "#Elements\n1 1 0 " + count + " 0 0 0 0\n",
+            "#Elements\n1 1 0 1 " + count + " 0 0 0 1 2 3\n",
+            "#Elements\n3 1 0 " + count + " 0 0 0 0 1 1 1\n",
+            "#Cas\n1 G 1 G 0\n4 S 4 S 0\n#TAB_PARAM_CAS\n3 3 " + count + " 1 1 1\n",
+            "#Cas\n9 E 9 E 0\n#TAB_PARAM_CAS\n9 9 1 1 1 1 1 1 1 1 1 O " + count + " 1\n",
+            "#Geometries\nR 1 2 3 4 5 6 7 8 9 10 11 " + count + " S 0 0\n"};
+        for (const std::string& line : lines) {
+            EXPECT_LE(PeakOfImport(ModelText().Raw(line).Text()), usual) << line;
+        }
+    }
+}
+
+// The limit is generous to small files; a model of a usual size takes little more than its file.
+TEST(MemoryInProportion, AnOrdinaryModelTakesLessThanThreeTimesItsFile)
+{
+    std::string text = ModelText().Text() + "#Elements\n";
+    for (int i = 1; i <= 100000; ++i) {
+        const std::string number = std::to_string(i);
+        text += "1 " + number + " 0 1 1 1.250 2.500 3.750 N" + number + " 0 0 0\n";
+    }
+    EXPECT_LT(PeakOfImport(text), 3 * static_cast<std::int64_t>(text.size()));
+}
+
+}  // namespace
+}  // namespace tamur::test

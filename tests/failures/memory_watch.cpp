@@ -1,0 +1,227 @@
+#include "failures/memory_watch.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include "failures/watched_allocations.h"
+
+#ifdef _WIN32
+#include <malloc.h>
+#include <windows.h>
+#else
+#include <malloc.h>
+#include <pthread.h>
+#endif
+
+namespace tamur::test {
+namespace {
+
+constexpr std::uint64_t kNever = 0;
+
+// Not thread_local: where that is emulated, using it allocates.
+#ifdef _WIN32
+using ThreadId = DWORD;
+ThreadId ThisThread()
+{
+    return GetCurrentThreadId();
+}
+std::size_t SizeOf(void* block)
+{
+    return _msize(block);
+}
+#else
+using ThreadId = pthread_t;
+ThreadId ThisThread()
+{
+    return pthread_self();
+}
+std::size_t SizeOf(void* block)
+{
+    return malloc_usable_size(block);
+}
+#endif
+
+// Where throwing takes memory, what is freed can be allocated again, as in a process that has none
+// left. Elsewhere nothing can.
+#ifdef _WIN32
+constexpr bool kFreedCanBeHadAgain = true;
+#else
+constexpr bool kFreedCanBeHadAgain = false;
+#endif
+
+std::atomic<bool> isWatching = false;
+ThreadId watched;
+
+struct Counts {
+    std::uint64_t allocations = 0;
+    std::int64_t blocks = 0;
+    std::int64_t bytes = 0;
+    std::int64_t peak = 0;
+    std::uint64_t failAt = kNever;
+    Failing how = Failing::kOnce;
+    bool hasFailed = false;
+    std::size_t freedSince = 0;
+} counts;
+
+bool IsWatched()
+{
+    return isWatching && ThisThread() == watched;
+}
+
+}  // namespace
+
+bool MayAllocate(std::size_t bytes)
+{
+    if (!IsWatched()) return true;
+    ++counts.allocations;
+    if (counts.failAt == kNever || counts.allocations < counts.failAt) return true;
+    if (counts.allocations > counts.failAt && counts.how == Failing::kOnce) return true;
+    counts.hasFailed = true;
+    if (!kFreedCanBeHadAgain || bytes > counts.freedSince) return false;
+    counts.freedSince -= bytes;
+    return true;
+}
+
+void NoteAllocated(std::size_t bytes)
+{
+    if (!IsWatched()) return;
+    ++counts.blocks;
+    counts.bytes += static_cast<std::int64_t>(bytes);
+    if (counts.bytes > counts.peak) counts.peak = counts.bytes;
+}
+
+void NoteFreed(std::size_t bytes)
+{
+    if (!IsWatched()) return;
+    --counts.blocks;
+    if (counts.hasFailed) counts.freedSince += bytes;
+    counts.bytes -= static_cast<std::int64_t>(bytes);
+}
+
+MemoryWatch::MemoryWatch()
+{
+    // The first exception of a thread may make something that stays.
+    try {
+        throw 0;
+    } catch (int) {
+    }
+    counts = {};
+    watched = ThisThread();
+    isWatching = true;
+}
+
+MemoryWatch::~MemoryWatch()
+{
+    isWatching = false;
+}
+
+void MemoryWatch::FailAt(std::uint64_t allocation, Failing how)
+{
+    counts.failAt = counts.allocations + allocation;
+    counts.how = how;
+    counts.hasFailed = false;
+    counts.freedSince = 0;
+}
+
+void MemoryWatch::FailNoMore()
+{
+    counts.failAt = kNever;
+}
+
+bool MemoryWatch::HasFailed() const
+{
+    return counts.hasFailed;
+}
+
+std::uint64_t MemoryWatch::Allocations() const
+{
+    return counts.allocations;
+}
+
+std::int64_t MemoryWatch::BlocksAlive() const
+{
+    return counts.blocks;
+}
+
+std::int64_t MemoryWatch::PeakBytes() const
+{
+    return counts.peak;
+}
+
+}  // namespace tamur::test
+
+// ------------------------------------------------------------------ in place of the run time's
+// The linker leads every malloc and free of this program here (--wrap).
+
+using tamur::test::MayAllocate;
+using tamur::test::NoteAllocated;
+using tamur::test::NoteFreed;
+using tamur::test::SizeOf;
+
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_realloc(void* block, std::size_t size);
+void __real_free(void* block);
+
+void* __wrap_malloc(std::size_t size)
+{
+    void* const block = MayAllocate(size) ? __real_malloc(size) : nullptr;
+    if (block != nullptr) NoteAllocated(SizeOf(block));
+    return block;
+}
+
+void* __wrap_realloc(void* block, std::size_t size)
+{
+    const std::size_t before = block != nullptr ? SizeOf(block) : 0;
+    void* const moved = MayAllocate(size) ? __real_realloc(block, size) : nullptr;
+    if (moved == nullptr) return nullptr;
+    if (block != nullptr) NoteFreed(before);
+    NoteAllocated(SizeOf(moved));
+    return moved;
+}
+
+void __wrap_free(void* block)
+{
+    if (block != nullptr) NoteFreed(SizeOf(block));
+    __real_free(block);
+}
+
+#ifndef _WIN32
+void* __real_aligned_alloc(std::size_t alignment, std::size_t size);
+
+void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size)
+{
+    void* const block = MayAllocate(size) ? __real_aligned_alloc(alignment, size) : nullptr;
+    if (block != nullptr) NoteAllocated(SizeOf(block));
+    return block;
+}
+#endif
+
+}  // extern "C"
+
+void* operator new(std::size_t size)
+{
+    for (;;) {
+        if (void* const block = std::malloc(size == 0 ? 1 : size)) return block;
+        const std::new_handler handler = std::get_new_handler();
+        if (handler == nullptr) throw std::bad_alloc();
+        handler();
+    }
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void operator delete(void* block) noexcept
+{
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept
+{
+    std::free(block);
+}
