@@ -28,8 +28,7 @@ class LineGenerator {
         return line;
     }
 
- private:
-    std::string Token()
+    [[nodiscard]] std::string Token()
     {
         switch (Below(8)) {
             case 0:
@@ -43,6 +42,7 @@ class LineGenerator {
         }
     }
 
+ private:
     std::string Sign()
     {
         switch (Below(6)) {

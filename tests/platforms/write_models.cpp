@@ -1,0 +1,71 @@
+// Writes models into a folder, 00000.txt and on: the first half are seeds with one change, taken
+// evenly from all that there are, the others are generated. usage: write_models FOLDER COUNT
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "mutation/mutations.h"
+#include "mutation/seeds.h"
+#include "platforms/generated.h"
+
+namespace tamur::test {
+namespace {
+
+class ModelFolder {
+ public:
+    explicit ModelFolder(std::filesystem::path path) : path_(std::move(path))
+    {
+        std::filesystem::create_directories(path_);
+    }
+
+    void Add(const std::string& content)
+    {
+        char name[16];
+        (void)std::snprintf(name, sizeof name, "%05u.txt", count_++);
+        std::ofstream file(path_ / name, std::ios::binary);
+        file << content;
+        if (!file.flush()) throw std::runtime_error("cannot write into " + path_.string());
+    }
+
+    [[nodiscard]] unsigned Count() const { return count_; }
+
+ private:
+    std::filesystem::path path_;
+    unsigned count_ = 0;
+};
+
+void WriteChanged(ModelFolder& folder, std::size_t count)
+{
+    std::vector<Mutations> seeds;
+    std::size_t changes = 0;
+    for (const Seed& seed : MutationSeeds()) {
+        seeds.emplace_back(seed.text);
+        changes += seeds.back().Count();
+    }
+    std::size_t seed = 0;
+    std::size_t before = 0;  // the changes of the seeds that are done
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t change = changes * i / count;
+        while (change - before >= seeds[seed].Count()) before += seeds[seed++].Count();
+        folder.Add(seeds[seed].Apply(change - before));
+    }
+}
+
+}  // namespace
+}  // namespace tamur::test
+
+int main(int argumentCount, char** arguments)
+{
+    using namespace tamur::test;
+    if (argumentCount != 3) return 2;
+    ModelFolder folder(arguments[1]);
+    const std::size_t count = std::strtoul(arguments[2], nullptr, 10);
+    WriteChanged(folder, count / 2);
+    while (folder.Count() < count) folder.Add(GeneratedModel(folder.Count()));
+    return 0;
+}
