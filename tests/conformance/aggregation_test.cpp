@@ -11,6 +11,7 @@ class Outer final : public IUnknown {
  public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) noexcept override
     {
+        if (object == nullptr) return E_POINTER;
         if (!IsEqualIID(riid, IID_IUnknown)) return inner_->QueryInterface(riid, object);
         AddRef();
         *object = this;
@@ -53,6 +54,13 @@ TEST_P(Aggregation, InnerUnknownIsItsOwn)
     EXPECT_EQ(unknown.Get(), &outer.Inner());
     EXPECT_NE(unknown.Get(), &outer);
     EXPECT_EQ(outer.References(), 1u);
+}
+
+TEST_P(Aggregation, InnerUnknownNeedsAPlaceForItsAnswer)
+{
+    Outer outer;
+    ASSERT_EQ(outer.CreateInner(*GetParam().id), S_OK);
+    EXPECT_EQ(outer.Inner().QueryInterface(IID_IUnknown, nullptr), E_POINTER);
 }
 
 TEST_P(Aggregation, InterfacesBelongToTheOuterObject)

@@ -21,8 +21,8 @@ struct Combination {
     friend std::ostream& operator<<(std::ostream& out, const Combination& combination)
     {
         out << combination.number << ':';
-        for (const auto& [number, coefficient] : combination.terms) {
-            out << ' ' << number << '*' << coefficient;
+        for (const auto& [caseNumber, coefficient] : combination.terms) {
+            out << ' ' << caseNumber << '*' << coefficient;
         }
         return out;
     }

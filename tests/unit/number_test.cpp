@@ -1,0 +1,64 @@
+#include "import/scan/number.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+namespace tamur {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+struct Written {
+    std::string text;
+    Range range;
+    double value;
+};
+
+// What stands behind the number plays no part, however much like an exponent it looks.
+void ExpectDecimal(const Written& number)
+{
+    for (const char* const behind : {"", " 900", " -900", "e900", "e-900"}) {
+        const std::string text = number.text + behind;
+        double value = -1;
+        EXPECT_EQ(DecimalToReal(text.data(), text.data() + number.text.size(), value), number.range)
+            << text;
+        EXPECT_EQ(value, number.value) << text;
+    }
+}
+
+const std::string kZeros(500, '0');
+
+// Digits behind the point, and zeros before the first other digit, do not make a number smaller.
+TEST(DecimalRange, OverflowIsToldWhateverStandsBehindThePoint)
+{
+    ExpectDecimal({"1." + kZeros + "e400", Range::kOverflow, kInfinity});
+    ExpectDecimal({"9." + std::string(500, '9') + "e400", Range::kOverflow, kInfinity});
+    ExpectDecimal({kZeros + "1e400", Range::kOverflow, kInfinity});
+    ExpectDecimal({"1" + kZeros, Range::kOverflow, kInfinity});
+    ExpectDecimal({"-1" + kZeros + "." + kZeros, Range::kOverflow, -kInfinity});
+}
+
+TEST(DecimalRange, ZerosBehindThePointCountAgainstTheExponent)
+{
+    ExpectDecimal({"0." + kZeros + "1", Range::kUnderflow, 0.0});
+    ExpectDecimal({"0." + kZeros + "1e100", Range::kUnderflow, 0.0});
+    ExpectDecimal({"0." + kZeros + "1e900", Range::kOverflow, kInfinity});
+    ExpectDecimal({"0." + kZeros + "1e500", Range::kNormal, 0.1});
+}
+
+TEST(DecimalRange, DigitsBeforeThePointCountAgainstANegativeExponent)
+{
+    ExpectDecimal({"1" + kZeros + "e-900", Range::kUnderflow, 0.0});
+    ExpectDecimal({"1" + kZeros + "e-500", Range::kNormal, 1.0});
+}
+
+TEST(DecimalRange, ExponentsBeyondAnyIntegerKeepTheirSign)
+{
+    ExpectDecimal({"1e99999999999999999999999999", Range::kOverflow, kInfinity});
+    ExpectDecimal({"1e-99999999999999999999999999", Range::kUnderflow, 0.0});
+}
+
+}  // namespace
+}  // namespace tamur

@@ -1,0 +1,101 @@
+// Paths between UTF-16 and UTF-8, where the platform does not convert them itself.
+#ifndef _WIN32
+
+#include "platform/linux/utf8.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tamur::platform {
+namespace {
+
+struct Spelling {
+    WideString wide;
+    std::string utf8;
+};
+
+// The first and the last character of every length, and one in the middle with every bit in use.
+const std::vector<Spelling> kCharacters = {
+    {{0x01}, "\x01"},
+    {{0x7F}, "\x7F"},
+    {{0x80}, "\xC2\x80"},
+    {{0xE9}, "\xC3\xA9"},
+    {{0x7FF}, "\xDF\xBF"},
+    {{0x800}, "\xE0\xA0\x80"},
+    {{0x20AC}, "\xE2\x82\xAC"},
+    {{0xD7FF}, "\xED\x9F\xBF"},
+    {{0xE000}, "\xEE\x80\x80"},
+    {{0xFFFF}, "\xEF\xBF\xBF"},
+    {{0xD800, 0xDC00}, "\xF0\x90\x80\x80"},
+    {{0xD83D, 0xDE00}, "\xF0\x9F\x98\x80"},
+    {{0xDAAB, 0xDEAF}, "\xF2\xBA\xBA\xAF"},
+    {{0xDBFF, 0xDFFF}, "\xF4\x8F\xBF\xBF"},
+};
+
+TEST(Utf8, EveryLengthOfCharacterGoesBothWays)
+{
+    WideString allWide;
+    std::string all;
+    for (const auto& [wide, utf8] : kCharacters) {
+        EXPECT_EQ(ToUtf8(wide.c_str()), utf8);
+        EXPECT_EQ(FromUtf8(utf8), wide) << utf8;
+        allWide += wide;
+        all += utf8;
+    }
+    EXPECT_EQ(ToUtf8(allWide.c_str()), all);
+    EXPECT_EQ(FromUtf8(all), allWide);
+    EXPECT_EQ(ToUtf8(OLESTR("")), "");
+    EXPECT_EQ(FromUtf8(""), WideString());
+}
+
+// Half a pair is no character: a question mark, and what stands beside it stays.
+TEST(Utf8, HalvesOfPairsBecomeQuestionMarks)
+{
+    for (const WideString& half : std::vector<WideString>{{0xD800}, {0xDBFF}, {0xDC00}, {0xDFFF}}) {
+        EXPECT_EQ(ToUtf8((u"a" + half).c_str()), "a?");
+        EXPECT_EQ(ToUtf8((half + u"b").c_str()), "?b");
+    }
+    EXPECT_EQ(ToUtf8(WideString({0xDC00, 0xD800}).c_str()), "??");
+    EXPECT_EQ(ToUtf8(WideString({0xD800, 0xE000}).c_str()), "?\xEE\x80\x80");
+    EXPECT_EQ(ToUtf8(WideString({0xD800, 0xD800, 0xDC00}).c_str()), "?\xF0\x90\x80\x80");
+}
+
+// One question mark for each byte that starts no character, and the next byte may start one.
+TEST(Utf8, BytesThatAreNoCharacterBecomeQuestionMarks)
+{
+    const std::vector<std::pair<std::string, WideString>> broken = {
+        {"\x80", u"?"},  // nothing to continue
+        {"\xBF"
+         "a",
+         u"?a"},
+        {"\xC3", u"?"},  // ends too early
+        {"\xC3"
+         "a",
+         u"?a"},
+        {"\xE2\x82", u"??"},
+        {"\xE2\x82"
+         "a",
+         u"??a"},
+        {"\xF0\x9F\x98", u"???"},
+        {"\xC3\xC3\xA9", u"?\u00E9"},
+        {"\xC1\xBF", u"??"},  // longer than need be
+        {"\xE0\x9F\xBF", u"???"},
+        {"\xF0\x8F\xBF\xBF", u"????"},
+        {"\xED\xA0\x80", u"???"},  // half a pair
+        {"\xED\xBF\xBF", u"???"},
+        {"\xF4\x90\x80\x80", u"????"},  // beyond the last character
+        {"\xF7\x80\x80\x80", u"????"},
+        {"\xF8\x80\x80\x80\x80", u"?????"},
+        {"\xFF", u"?"},
+    };
+    for (const auto& [bytes, expected] : broken) {
+        EXPECT_EQ(FromUtf8(bytes), expected) << testing::PrintToString(bytes);
+    }
+}
+
+}  // namespace
+}  // namespace tamur::platform
+
+#endif
