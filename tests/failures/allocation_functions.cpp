@@ -1,0 +1,92 @@
+// What stands in for the run time's allocation functions: the linker leads every malloc and free of
+// this program here (--wrap).
+#include <malloc.h>
+
+#include <cstdlib>
+#include <new>
+
+#include "failures/watched_allocations.h"
+
+using tamur::test::MayAllocate;
+using tamur::test::NoteAllocated;
+using tamur::test::NoteFreed;
+
+namespace {
+
+std::size_t SizeOf(void* block)
+{
+#ifdef _WIN32
+    return _msize(block);
+#else
+    return malloc_usable_size(block);
+#endif
+}
+
+}  // namespace
+
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_realloc(void* block, std::size_t size);
+void __real_free(void* block);
+
+void* __wrap_malloc(std::size_t size)
+{
+    void* const block = MayAllocate(size) ? __real_malloc(size) : nullptr;
+    if (block != nullptr) NoteAllocated(SizeOf(block));
+    return block;
+}
+
+void* __wrap_realloc(void* block, std::size_t size)
+{
+    const std::size_t before = block != nullptr ? SizeOf(block) : 0;
+    void* const moved = MayAllocate(size) ? __real_realloc(block, size) : nullptr;
+    if (moved == nullptr) return nullptr;
+    if (block != nullptr) NoteFreed(before);
+    NoteAllocated(SizeOf(moved));
+    return moved;
+}
+
+void __wrap_free(void* block)
+{
+    if (block != nullptr) NoteFreed(SizeOf(block));
+    __real_free(block);
+}
+
+#ifndef _WIN32
+void* __real_aligned_alloc(std::size_t alignment, std::size_t size);
+
+void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size)
+{
+    void* const block = MayAllocate(size) ? __real_aligned_alloc(alignment, size) : nullptr;
+    if (block != nullptr) NoteAllocated(SizeOf(block));
+    return block;
+}
+#endif
+
+}  // extern "C"
+
+void* operator new(std::size_t size)
+{
+    for (;;) {
+        if (void* const block = std::malloc(size == 0 ? 1 : size)) return block;
+        const std::new_handler handler = std::get_new_handler();
+        if (handler == nullptr) throw std::bad_alloc();
+        handler();
+    }
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void operator delete(void* block) noexcept
+{
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept
+{
+    std::free(block);
+}
