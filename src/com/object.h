@@ -98,14 +98,19 @@ HRESULT HandOut(Object& created, REFIID riid, void** object)
     return result;
 }
 
+// Throws std::bad_alloc.
+template <class Base>
+HRESULT CreateAndHandOut(IUnknown* outer, REFIID riid, void** object)
+{
+    if (outer == nullptr) return HandOut(*new CComObject<Base>, riid, object);
+    return HandOut(*new CComAggObject<Base>(outer), riid, object);
+}
+
 // Creates an instance of Base: inside an aggregate when there is an outer object.
 template <class Base>
 HRESULT CreateInstance(IUnknown* outer, REFIID riid, void** object) noexcept
 {
-    return Guarded([&] {
-        return outer == nullptr ? HandOut(*new CComObject<Base>, riid, object)
-                                : HandOut(*new CComAggObject<Base>(outer), riid, object);
-    });
+    return Guarded([&] { return CreateAndHandOut<Base>(outer, riid, object); });
 }
 
 }  // namespace tamur::com
