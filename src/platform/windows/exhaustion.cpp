@@ -27,6 +27,7 @@ bool PrepareForBadAlloc() noexcept
     if (keptBack.block != nullptr) return true;
     void* const block = std::malloc(kKeptBack);
     keptBack.Replace(block);
+    // cppcheck-suppress throwInNoexceptFunction ; handed over, not called
     std::set_new_handler(ThrowBadAlloc);
     return block != nullptr;
 }
