@@ -7,7 +7,7 @@
 
 namespace tamur::test {
 
-// Where opening a file takes a thousand times as long, every so many is tried.
+// Where opening a file takes far longer, every so many is tried.
 #ifdef _WIN32
 inline constexpr std::size_t kEvery = 16;
 #else
