@@ -34,7 +34,7 @@ class Accessor : public Interface {
     HRESULT GetAtRank(LONG rank, PublicRecord* record) const
     {
         if (!view_.Has(rank)) return E_FAIL;
-        return Deliver(view_.At(rank), view_.TheModel(), record, View::kCopyFailure);
+        return DeliverFrom(view_, rank, record);
     }
 
     [[nodiscard]] const View& TheView() const { return view_; }

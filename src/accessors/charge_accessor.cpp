@@ -18,7 +18,7 @@ template <class Records, class PublicRecord>
 HRESULT GetAtRank(const Model& model, const Records& records, LONG rank, PublicRecord* record)
 {
     const LiveView<Records> view(model, records);
-    return view.Has(rank) ? Deliver(view.At(rank), model, record, E_OUTOFMEMORY) : E_FAIL;
+    return view.Has(rank) ? DeliverFrom(view, rank, record) : E_FAIL;
 }
 
 }  // namespace
@@ -120,12 +120,12 @@ HRESULT CTMRChargeAccessor::GetEnveloppeAtRank(LONG rank, TMREnveloppe* record) 
 HRESULT CTMRChargeAccessor::GetCombinaisonOfCasNum(LONG casNum, TMRCombinaison* record) noexcept
 {
     const Combination* const found = model_.combinations.Find(casNum);
-    return found != nullptr ? Deliver(*found, model_, record, E_OUTOFMEMORY) : E_FAIL;
+    return found != nullptr ? Deliver(E_OUTOFMEMORY, record, *found) : E_FAIL;
 }
 
 HRESULT CTMRChargeAccessor::GetModes(TMRModes* record) noexcept
 {
-    return Deliver(model_.modes, model_, record, E_OUTOFMEMORY);
+    return Deliver(E_OUTOFMEMORY, record, model_.modes);
 }
 
 }  // namespace tamur

@@ -6,7 +6,7 @@
 namespace tamur {
 
 class CTMRFilaireAccessor
-    : public Accessor<ITMRFilaireAccessor, IID_ITMRFilaireAccessor, BarsCopy> {
+    : public Accessor<ITMRFilaireAccessor, IID_ITMRFilaireAccessor, SharedBars> {
  public:
     using Accessor::Accessor;
 

@@ -10,10 +10,9 @@ namespace {
 
 // The record at a place from 1; an empty one when there is none.
 template <class Record, class PublicRecord>
-void CopyReferred(const Table<Record>& table, std::uint32_t place, const Model& model,
-                  HostCopy& host, PublicRecord& to)
+void CopyReferred(const Table<Record>& table, std::uint32_t place, HostCopy& host, PublicRecord& to)
 {
-    Copy(place == 0 ? Record() : table[place - 1], model, host, to);
+    Copy(place == 0 ? Record() : table[place - 1], host, to);
 }
 
 LONG ToPublic(std::uint32_t identifier)
@@ -62,7 +61,7 @@ void CopySupport(const Support& from, SupportKind kind, HostCopy& host, PublicRe
 
 }  // namespace
 
-void Copy(const Node& from, const Model&, HostCopy& host, TMRNode& to)
+void Copy(const Node& from, HostCopy& host, TMRNode& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.ElemLabels = host.Labels(from.labels);
@@ -70,7 +69,7 @@ void Copy(const Node& from, const Model&, HostCopy& host, TMRNode& to)
     to.Geometrie = ToPublic(from.position);
 }
 
-void Copy(const Bar& from, const Model& model, HostCopy& host, TMRFilaire& to)
+void Copy(const Bar& from, const BarTables& tables, HostCopy& host, TMRFilaire& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = from.group;
@@ -79,11 +78,11 @@ void Copy(const Bar& from, const Model& model, HostCopy& host, TMRFilaire& to)
     to.ErrorMessage = RemarkText(from.remarks, host);
     to.MeshStep = from.meshStep;
     to.RealLength = TruncatedLength(from.line);
-    CopyReferred(model.sections.all, from.startSection, model, host, to.StartSection);
-    CopyReferred(model.sections.all, from.endSection, model, host, to.EndSection);
-    CopyReferred(model.releases, from.startRelease, model, host, to.StartConnection);
-    CopyReferred(model.releases, from.endRelease, model, host, to.EndConnection);
-    CopyReferred(model.materials, from.material, model, host, to.FilaireMaterial);
+    CopyReferred(tables.sections.all, from.startSection, host, to.StartSection);
+    CopyReferred(tables.sections.all, from.endSection, host, to.EndSection);
+    CopyReferred(tables.releases, from.startRelease, host, to.StartConnection);
+    CopyReferred(tables.releases, from.endRelease, host, to.EndConnection);
+    CopyReferred(tables.materials, from.material, host, to.FilaireMaterial);
     to.CogPosition = host.String(OLESTR("CentreCentre"));
     to.Angle = from.angle;
     to.OrientationNode = from.orientationNode;
@@ -92,13 +91,13 @@ void Copy(const Bar& from, const Model& model, HostCopy& host, TMRFilaire& to)
     to.endPoint = ToPublic(from.line.end);
 }
 
-void Copy(const Surface& from, const Model& model, HostCopy& host, TMRSurfacique& to)
+void Copy(const Surface& from, const BarTables& tables, HostCopy& host, TMRSurfacique& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = from.group;
     to.ElemLabels = host.Labels(from.labels);
     to.ElementType = host.String(SurfaceTypeName(from.type));
-    CopyReferred(model.materials, from.material, model, host, to.SurfaciqueMaterial);
+    CopyReferred(tables.materials, from.material, host, to.SurfaciqueMaterial);
     to.Surface = host.Polygon(from.outline);
     to.PenteX = from.slopeX;
     to.PenteY = from.slopeY;
@@ -108,7 +107,7 @@ void Copy(const Surface& from, const Model& model, HostCopy& host, TMRSurfacique
     to.NbYMesh = from.meshY;
 }
 
-void Copy(const Opening& from, const Model&, HostCopy& host, TMROuverture& to)
+void Copy(const Opening& from, HostCopy& host, TMROuverture& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.ElemLabels = host.Labels(from.labels);
@@ -117,7 +116,7 @@ void Copy(const Opening& from, const Model&, HostCopy& host, TMROuverture& to)
     to.NbYMesh = from.meshY;
 }
 
-void Copy(const Wall& from, const Model&, HostCopy& host, TMRParoi& to)
+void Copy(const Wall& from, HostCopy& host, TMRParoi& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.Surface = host.Polygon(from.outline);
@@ -144,7 +143,7 @@ void Copy(const Wall& from, const Model&, HostCopy& host, TMRParoi& to)
     to.portCoef.tabCoef = host.Array(from.spanCoefficients, from.outline.count);
 }
 
-void Copy(const PointSupport& from, const Model&, HostCopy& host, TMRAppuiPonctuel& to)
+void Copy(const PointSupport& from, HostCopy& host, TMRAppuiPonctuel& to)
 {
     CopySupport(from, SupportKind::kPoint, host, to);
     to.Surface = from.area;
@@ -153,7 +152,7 @@ void Copy(const PointSupport& from, const Model&, HostCopy& host, TMRAppuiPonctu
     to.Geometrie = ToPublic(from.position);
 }
 
-void Copy(const LineSupport& from, const Model&, HostCopy& host, TMRAppuiLineaire& to)
+void Copy(const LineSupport& from, HostCopy& host, TMRAppuiLineaire& to)
 {
     CopySupport(from, SupportKind::kLine, host, to);
     to.Surface = from.area;
@@ -162,13 +161,13 @@ void Copy(const LineSupport& from, const Model&, HostCopy& host, TMRAppuiLineair
     to.Geometrie = ToPublic(from.line);
 }
 
-void Copy(const SurfaceSupport& from, const Model&, HostCopy& host, TMRAppuiSurfacique& to)
+void Copy(const SurfaceSupport& from, HostCopy& host, TMRAppuiSurfacique& to)
 {
     CopySupport(from, SupportKind::kSurface, host, to);
     to.Geometrie = host.Polygon(from.outline);
 }
 
-void Copy(const Mass& from, const Model&, HostCopy& host, TMRMasse& to)
+void Copy(const Mass& from, HostCopy& host, TMRMasse& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = 0;
@@ -185,7 +184,7 @@ void Copy(const Mass& from, const Model&, HostCopy& host, TMRMasse& to)
     to.Geometrie = ToPublic(from.position);
 }
 
-void Copy(const Displacement& from, const Model&, HostCopy& host, TMRDeplacement& to)
+void Copy(const Displacement& from, HostCopy& host, TMRDeplacement& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = from.group;
@@ -199,7 +198,7 @@ void Copy(const Displacement& from, const Model&, HostCopy& host, TMRDeplacement
     to.Geometrie = ToPublic(from.position);
 }
 
-void Copy(const SurfaceSection& from, const Model&, HostCopy& host, TMRSurfacicSection& to)
+void Copy(const SurfaceSection& from, HostCopy& host, TMRSurfacicSection& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.Couche = from.layer;
@@ -207,7 +206,7 @@ void Copy(const SurfaceSection& from, const Model&, HostCopy& host, TMRSurfacicS
     to.Geometrie = ToPublic(from.line);
 }
 
-void Copy(const InnerLine& from, const Model&, HostCopy& host, TMRLineInterieur& to)
+void Copy(const InnerLine& from, HostCopy& host, TMRLineInterieur& to)
 {
     to.lIdentifier = ToPublic(from.identifier);
     to.iMaillage = from.mesh;
@@ -215,7 +214,7 @@ void Copy(const InnerLine& from, const Model&, HostCopy& host, TMRLineInterieur&
     to.Geometrie = ToPublic(from.line);
 }
 
-void Copy(const Cable& from, const Model&, HostCopy& host, TMRCable& to)
+void Copy(const Cable& from, HostCopy& host, TMRCable& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = from.group;
@@ -225,7 +224,7 @@ void Copy(const Cable& from, const Model&, HostCopy& host, TMRCable& to)
     to.Geometrie = ToPublic(from.line);
 }
 
-void Copy(const ConstructionLine& from, const Model&, HostCopy& host, TMRLine& to)
+void Copy(const ConstructionLine& from, HostCopy& host, TMRLine& to)
 {
     to.identifier = ToPublic(from.identifier);
     to.GroupNumber = from.group;

@@ -3,7 +3,7 @@
 
 namespace tamur {
 
-void Copy(const Material& from, const Model&, HostCopy& host, TMRMaterial& to)
+void Copy(const Material& from, HostCopy& host, TMRMaterial& to)
 {
     to.MaterialName = host.String(from.name);
     to.E = from.modulus;
@@ -13,7 +13,7 @@ void Copy(const Material& from, const Model&, HostCopy& host, TMRMaterial& to)
     to.amortissement = from.damping;
 }
 
-void Copy(const Section& from, const Model&, HostCopy& host, TMRSectionGeometry& to)
+void Copy(const Section& from, HostCopy& host, TMRSectionGeometry& to)
 {
     to.SectionLib = host.String(from.name);
     to.Sx = from.constants[0];
@@ -30,11 +30,11 @@ void Copy(const Section& from, const Model&, HostCopy& host, TMRSectionGeometry&
     const Outline& outline = from.outline;
     to.epureSec.Code = outline.code;
     to.epureSec.nbPoints = outline.pointCount;
-    to.epureSec.pTabPoints = host.Array(outline.coordinates, outline.CoordinateCount());
+    to.epureSec.pTabPoints = host.Array(outline.coordinates);
     to.epureSec.dfRadius = outline.radius;
 }
 
-void Copy(const Release& from, const Model&, HostCopy& host, TMRAttache& to)
+void Copy(const Release& from, HostCopy& host, TMRAttache& to)
 {
     to.AttacheLib = host.String(from.name);
     to.Rotules = static_cast<unsigned char>(from.rotations);
@@ -43,7 +43,7 @@ void Copy(const Release& from, const Model&, HostCopy& host, TMRAttache& to)
     to.Def = host.String(from.definition);
 }
 
-void Copy(const Group& from, const Model&, HostCopy& host, TMRGroupe& to)
+void Copy(const Group& from, HostCopy& host, TMRGroupe& to)
 {
     to.Elem = from.elementKind;
     to.Num = from.number;

@@ -36,7 +36,7 @@ void CopyGroupLoad(const GroupLoad& from, PublicRecord& to)
 
 }  // namespace
 
-void Copy(const LoadCase& from, const Model&, HostCopy& host, TMRCas& to)
+void Copy(const LoadCase& from, HostCopy& host, TMRCas& to)
 {
     to.Num = from.number;
     to.Type = from.type;
@@ -44,14 +44,14 @@ void Copy(const LoadCase& from, const Model&, HostCopy& host, TMRCas& to)
     to.Code = host.String(from.code);
 }
 
-void Copy(const PointLoad& from, const Model&, HostCopy&, TMRChargePonctuelle& to)
+void Copy(const PointLoad& from, HostCopy&, TMRChargePonctuelle& to)
 {
     CopyHead(from, to);
     CopyMoments(from, to);
     to.Geometrie = ToPublic(from.position);
 }
 
-void Copy(const LineLoad& from, const Model&, HostCopy&, TMRChargeLineaire& to)
+void Copy(const LineLoad& from, HostCopy&, TMRChargeLineaire& to)
 {
     CopyHead(from, to);
     CopyMoments(from, to);
@@ -60,7 +60,7 @@ void Copy(const LineLoad& from, const Model&, HostCopy&, TMRChargeLineaire& to)
     to.Geometrie = ToPublic(from.line);
 }
 
-void Copy(const SurfaceLoad& from, const Model&, HostCopy& host, TMRChargeSurfacique& to)
+void Copy(const SurfaceLoad& from, HostCopy& host, TMRChargeSurfacique& to)
 {
     CopyHead(from, to);
     to.intensiteI = from.intensity[0];
@@ -69,7 +69,7 @@ void Copy(const SurfaceLoad& from, const Model&, HostCopy& host, TMRChargeSurfac
     to.Geometrie = host.Polygon(from.outline);
 }
 
-void Copy(const GroupLoad& from, const Model&, HostCopy&, TMRChargePoidsPropre& to)
+void Copy(const GroupLoad& from, HostCopy&, TMRChargePoidsPropre& to)
 {
     CopyGroupLoad(from, to);
     to.dX = from.values[0];
@@ -77,7 +77,7 @@ void Copy(const GroupLoad& from, const Model&, HostCopy&, TMRChargePoidsPropre& 
     to.dZ = from.values[2];
 }
 
-void Copy(const GroupLoad& from, const Model&, HostCopy&, TMRChargeThermique& to)
+void Copy(const GroupLoad& from, HostCopy&, TMRChargeThermique& to)
 {
     CopyGroupLoad(from, to);
     to.DeltaT = from.values[0];
@@ -85,7 +85,7 @@ void Copy(const GroupLoad& from, const Model&, HostCopy&, TMRChargeThermique& to
     to.Gz = from.values[2];
 }
 
-void Copy(const SeismicCase& from, const Model&, HostCopy& host, TMRChargeSismique& to)
+void Copy(const SeismicCase& from, HostCopy& host, TMRChargeSismique& to)
 {
     to.lIdentifier = 0;
     to.iNumCas = from.caseNumber;
@@ -109,7 +109,7 @@ void Copy(const SeismicCase& from, const Model&, HostCopy& host, TMRChargeSismiq
     to.bDampingsLimitation = from.limitsDampings;
 }
 
-void Copy(const Combination& from, const Model&, HostCopy& host, TMRCombinaison& to)
+void Copy(const Combination& from, HostCopy& host, TMRCombinaison& to)
 {
     to.iNumCas = from.caseNumber;
     to.iNbCmb = from.termCount;
@@ -117,7 +117,7 @@ void Copy(const Combination& from, const Model&, HostCopy& host, TMRCombinaison&
     to.pCoeff = host.Array(from.factors, from.termCount);
 }
 
-void Copy(const Envelope& from, const Model&, HostCopy& host, TMREnveloppe& to)
+void Copy(const Envelope& from, HostCopy& host, TMREnveloppe& to)
 {
     to.iNumCas = from.caseNumber;
     to.iGrandeur = from.quantity;
@@ -130,13 +130,13 @@ void Copy(const Envelope& from, const Model&, HostCopy& host, TMREnveloppe& to)
     to.iParamValeurF = from.values.f;
     to.iParamValeurS = from.values.s;
     to.bConserverCas = from.keepsCase;
-    to.iNbCases = from.caseCount;
-    to.pCases = host.Array(from.cases, from.caseCount);
+    to.iNbCases = from.cases.count;
+    to.pCases = host.Array(from.cases);
 }
 
-void Copy(const Modes& from, const Model&, HostCopy& host, TMRModes& to)
+void Copy(const Modes& from, HostCopy& host, TMRModes& to)
 {
-    to.iNrOfModes = from.modeCount;
+    to.iNrOfModes = from.dampings.count;
     to.dPercentX = from.percent[0];
     to.dPercentY = from.percent[1];
     to.dPercentZ = from.percent[2];
@@ -144,7 +144,7 @@ void Copy(const Modes& from, const Model&, HostCopy& host, TMRModes& to)
     std::memcpy(to.pNumCas, from.cases, sizeof to.pNumCas);
     std::memcpy(to.pCoeffCas, from.factors, sizeof to.pCoeffCas);
     to.bComputeDampings = from.computesDampings;
-    to.pDampingValues = host.Array(from.dampings, from.modeCount);
+    to.pDampingValues = host.Array(from.dampings);
     to.iCalculMethod = from.method;
     to.bResidualMode = from.residualMode;
 }

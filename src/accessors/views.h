@@ -13,7 +13,7 @@ namespace tamur {
 //   Has(rank)           whether there is such a record; for some views an outside rank ends the
 //                       process instead
 //   At(rank)            the record, for a rank that Has
-//   TheModel()          what the record refers to
+//   Referred()          the tables that it refers to, where it does
 //   kCopyFailure        the result when memory for a copy runs out
 
 // A model without anything in it.
@@ -54,7 +54,7 @@ class ArrayView {
     {
         return table_[first_ + static_cast<std::size_t>(rank)];
     }
-    [[nodiscard]] const Model& TheModel() const { return model_; }
+    [[nodiscard]] const BarTables& Referred() const { return *model_.barTables; }
 
  private:
     const Model& model_;
@@ -78,7 +78,7 @@ class LiveView {
         PrefetchLabels(records_, static_cast<std::size_t>(rank));
         return records_[static_cast<std::size_t>(rank)];
     }
-    [[nodiscard]] const Model& TheModel() const { return model_; }
+    [[nodiscard]] const BarTables& Referred() const { return *model_.barTables; }
 
  private:
     const Model& model_;
@@ -115,14 +115,14 @@ class FrozenCountView : public CheckedView<Record> {
     LONG count_;
 };
 
-// The bars of when the view was made, as a copy of its own. Bars and what they refer to never
-// change once read, so the copy is a share in the model and the number of its bars.
-class BarsCopy {
+// The bars of when the view was made, as a copy of its own: a share in the bars and what they are
+// made of, none of which changes once read, and the number of bars.
+class SharedBars {
  public:
     static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
 
-    explicit BarsCopy(std::shared_ptr<const Model> model)
-        : model_(std::move(model)), count_(static_cast<LONG>(model_->bars.Size()))
+    explicit SharedBars(std::shared_ptr<const BarTables> tables)
+        : tables_(std::move(tables)), count_(static_cast<LONG>(tables_->bars.Size()))
     {
     }
 
@@ -130,23 +130,21 @@ class BarsCopy {
     [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
     [[nodiscard]] const Bar& At(LONG rank) const
     {
-        PrefetchLabels(model_->bars, static_cast<std::size_t>(rank));
-        return model_->bars[static_cast<std::size_t>(rank)];
+        return tables_->bars[static_cast<std::size_t>(rank)];
     }
-    [[nodiscard]] const Model& TheModel() const { return *model_; }
+    [[nodiscard]] const BarTables& Referred() const { return *tables_; }
 
  private:
-    std::shared_ptr<const Model> model_;
+    std::shared_ptr<const BarTables> tables_;
     LONG count_;
 };
 
-// The load cases that were not disabled when the view was made, as a copy of its own. It shares
-// in the model for their texts.
+// The load cases that were not disabled when the view was made, with texts of their own.
 class CasesCopy {
  public:
     static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
 
-    explicit CasesCopy(std::shared_ptr<const Model> model);
+    explicit CasesCopy(const CaseTable& table);
 
     [[nodiscard]] LONG Count() const { return static_cast<LONG>(cases_.size()); }
     [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
@@ -154,11 +152,10 @@ class CasesCopy {
     {
         return cases_[static_cast<std::size_t>(rank)];
     }
-    [[nodiscard]] const Model& TheModel() const { return *model_; }
 
  private:
-    std::shared_ptr<const Model> model_;
     std::vector<LoadCase> cases_;
+    std::unique_ptr<char[]> texts_;
 };
 
 }  // namespace tamur

@@ -4,6 +4,8 @@ namespace tamur::com {
 
 void Module::Init(ObjectMapEntry* map, REFGUID libraryId)
 {
+    // Where a lock takes memory when it is first taken, it takes it now and not when a host calls.
+    const std::lock_guard lock(criticalSection_);
     map_ = map;
     libraryId_ = libraryId;
     ForEachEntry([](ObjectMapEntry& entry) {

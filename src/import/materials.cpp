@@ -6,6 +6,7 @@ namespace tamur {
 
 bool ReadMaterials(Model& model, ModelFile& file)
 {
+    BarTables& tables = *model.barTables;
     model.hasDefaultMaterial = false;
     if (file.FindSectionHeader(SectionHeader::kMaterials, SectionHeader::kMaterialsAccented)) {
         for (Line line; file.ReadDataLine(line);) {
@@ -15,22 +16,23 @@ bool ReadMaterials(Model& model, ModelFile& file)
             columns >> name >> material.modulus >> material.poisson >> material.density >>
                 material.expansion >> material.damping;
             if (columns.Failed()) file.Report(Finding::kUnreadableColumn);
-            material.name = MakeText(model.arena, name);
-            model.materials.Append(material);
+            material.name = MakeText(tables.arena, name);
+            tables.materials.Append(material);
         }
     }
-    if (model.materials.Size() == 0) AddDefaultMaterial(model);
+    if (tables.materials.Size() == 0) AddDefaultMaterial(model);
     return true;
 }
 
 void AddDefaultMaterial(Model& model)
 {
-    model.materials.Append({.name = MakeText(model.arena, "BETON"),
-                            .modulus = 1.962e10,
-                            .poisson = 0.1,
-                            .density = 24525.0,
-                            .expansion = 1e-5,
-                            .damping = 0.04});
+    BarTables& tables = *model.barTables;
+    tables.materials.Append({.name = MakeText(tables.arena, "BETON"),
+                             .modulus = 1.962e10,
+                             .poisson = 0.1,
+                             .density = 24525.0,
+                             .expansion = 1e-5,
+                             .damping = 0.04});
     model.hasDefaultMaterial = true;
 }
 

@@ -21,7 +21,7 @@ enum class Finding {
     kCombinationOfNoCase,   // parameters of a combination whose case is missing: dropped
     kCombinationSkipped,    // a combined case is missing: combination and case disabled
     kCombinationUnended,    // the list ends without its marker: stored as far as it goes
-    kListCountIgnored,      // a count that is negative or beyond its line: taken as 0
+    kListCountIgnored,      // a count that is negative or beyond any line: no values are read
 };
 
 class ImportObserver {

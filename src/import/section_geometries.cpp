@@ -1,71 +1,86 @@
 #include "import/section_geometries.h"
 
+#include <algorithm>
+
+#include "import/read_list.h"
 #include "import/scan/stream_scanner.h"
 #include "import/section_name.h"
 
 namespace tamur {
 namespace {
 
-// For code 'S' the pairs of all points come first and the third values after them.
-void ReadCoordinates(StreamScanner& tokens, double* coordinates, const Outline& outline)
+// The pairs of all points come first and, for code 'S', the third values after them. So the points
+// of which nothing is there are always the last.
+List<double> ReadCoordinates(StreamScanner& tokens, const Outline& outline, Arena& arena)
 {
-    double* const end = coordinates + outline.CoordinateCount();
+    List<double> list;
+    if (outline.pointCount <= 0) return list;
     const std::int32_t stride = outline.Stride();
-    for (double* point = coordinates; point != end; point += stride) tokens >> point[0] >> point[1];
-    if (outline.code != 'S') return;
-    for (double* point = coordinates; point != end; point += stride) tokens >> point[2];
+    list.count = outline.pointCount * stride;
+    const std::size_t most = std::min(static_cast<std::size_t>(outline.pointCount), tokens.Left());
+    double* const values = reinterpret_cast<double*>(
+        arena.Reserve(most * static_cast<std::size_t>(stride) * sizeof(double)));
+    double* end = values;
+    for (; list.held < list.count; list.held += stride, end += stride) {
+        double x = 0;
+        tokens >> x;
+        if (tokens.Failed()) break;
+        std::fill(end, end + stride, 0.0);
+        end[0] = x;
+        tokens >> end[1];
+    }
+    arena.Commit(reinterpret_cast<const char*>(end));
+    if (list.held > 0) list.values = values;
+    if (outline.code != 'S') return list;
+    for (double* point = values; point != end; point += stride) tokens >> point[2];
+    return list;
 }
 
-void ReadOutline(StreamScanner& tokens, const Line& line, Model& model, ModelFile& file,
-                 Outline& outline)
+void ReadOutline(StreamScanner& tokens, Arena& arena, const ModelFile& file, Outline& outline)
 {
     outline.code = 'F';
-    tokens >> outline.pointCount >> outline.code;
-    if (outline.pointCount < 0 || !line.Holds(outline.pointCount)) {
-        file.Report(Finding::kListCountIgnored);
-        outline.pointCount = 0;
-    }
-    if (outline.pointCount > 0) {
-        double* const coordinates =
-            model.arena.Array<double>(static_cast<std::size_t>(outline.CoordinateCount()));
-        ReadCoordinates(tokens, coordinates, outline);
-        outline.coordinates = coordinates;
-    }
+    std::int32_t count = 0;
+    tokens >> count >> outline.code;
+    outline.pointCount = ListCount(count, file);
+    outline.coordinates = ReadCoordinates(tokens, outline, arena);
     if (tokens.Failed()) file.Report(Finding::kUnreadableColumn);
-    // Often absent, so not worth a finding.
-    if (outline.code == 'C' || outline.code == 'F') tokens >> outline.radius;
+    const bool hasRadius = outline.code == 'C' || outline.code == 'F';
+    // Often absent, so not worth a finding. After a list that was not read it cannot be found.
+    if (hasRadius && outline.pointCount == count) tokens >> outline.radius;
 }
 
 }  // namespace
 
 bool ReadSectionGeometries(Model& model, ModelFile& file)
 {
+    BarTables& tables = *model.barTables;
     model.hasDefaultSection = false;
-    model.sections.Restart();
+    tables.sections.Restart();
     if (file.FindSectionHeader(SectionHeader::kGeometries, SectionHeader::kGeometriesAccented)) {
         for (Line line; file.ReadDataLine(line);) {
             Section section;
             std::string_view name;
             StreamScanner tokens(line.text, line.end);
             tokens >> name >> section.constants;
-            ReadOutline(tokens, line, model, file, section.outline);
+            ReadOutline(tokens, tables.arena, file, section.outline);
             const SectionName normalised = NormaliseSectionName(name);
-            section.name = MakeText(model.arena, normalised.text);
+            section.name = MakeText(tables.arena, normalised.text);
             section.isHShape = normalised.isHShape;
-            model.sections.all.Append(section);
+            tables.sections.all.Append(section);
         }
     }
-    if (model.sections.all.Size() == 0) AddDefaultSection(model);
+    if (tables.sections.all.Size() == 0) AddDefaultSection(model);
     return true;
 }
 
 void AddDefaultSection(Model& model)
 {
-    model.sections.all.Append({.name = MakeText(model.arena, "R20*30"),
-                               .constants = {0.06, 0.05, 0.05, 0.0004695, 0.00045, 0.0002, 0.002761,
-                                             0.003, 0.002, 0.003, 0.002},
-                               .isHShape = false,
-                               .outline = {}});
+    BarTables& tables = *model.barTables;
+    tables.sections.all.Append({.name = MakeText(tables.arena, "R20*30"),
+                                .constants = {0.06, 0.05, 0.05, 0.0004695, 0.00045, 0.0002,
+                                              0.002761, 0.003, 0.002, 0.003, 0.002},
+                                .isHShape = false,
+                                .outline = {}});
     model.hasDefaultSection = true;
 }
 

@@ -6,7 +6,7 @@
 
 #include "TAMURReader.h"
 #include "model/geometry.h"
-#include "model/text.h"
+#include "model/labels.h"
 
 namespace tamur {
 
@@ -27,7 +27,7 @@ struct BarRemarks {
 // in the tables as they are over all imports, 0 for none.
 struct Bar {
     Segment line;
-    Labels labels;
+    LabelPlaces labels;
     std::uint8_t type = 0;    // 0 when the code names none
     std::uint8_t offset = 0;  // a TMRFilaireExcentration
     BarRemarks remarks;

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "TAMURReader.h"
+#include "model/list.h"
 #include "model/text.h"
 
 namespace tamur {
@@ -23,15 +24,14 @@ struct Material {
     double damping = 0;
 };
 
-// The outline of a section: `stride` doubles a point.
+// The outline of a section.
 struct Outline {
-    const double* coordinates = nullptr;  // in an arena; null when there are no points
+    List<double> coordinates;  // Stride() of each point
     double radius = 0;
-    std::int32_t pointCount = 0;
+    std::int32_t pointCount = 0;  // as the line announces it; below 0 there are no coordinates
     char code = 0;
 
     [[nodiscard]] std::int32_t Stride() const { return code == 'S' ? 3 : 2; }
-    [[nodiscard]] std::int32_t CoordinateCount() const { return pointCount * Stride(); }
 };
 
 struct Section {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "model/geometry.h"
+#include "model/list.h"
 #include "model/text.h"
 
 namespace tamur {
@@ -81,8 +82,7 @@ struct EnvelopeLetters {
 };
 
 struct Envelope {
-    const std::int32_t* cases = nullptr;
-    std::int32_t caseCount = 0;
+    List<std::int32_t> cases;
     std::int32_t caseNumber = 0;
     std::int32_t quantity = 0;
     EnvelopeLetters envelopes;
@@ -91,15 +91,14 @@ struct Envelope {
 };
 
 struct Modes {
-    std::int32_t modeCount = 0;
+    List<double> dampings;     // its count is the number of modes
+    bool hasDampings = false;  // a modal line has made a damping array, perhaps an empty one
     double percent[3] = {100.0, 100.0, 100.0};
     std::int32_t massChoice = 0;
     std::int32_t cases[8] = {};
     double factors[8] = {};
     bool computesDampings = false;
     bool residualMode = false;
-    bool hasDampings = false;  // a modal line has made a damping array, perhaps an empty one
-    const double* dampings = nullptr;
     std::int32_t method = 0;
 };
 

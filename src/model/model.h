@@ -2,34 +2,32 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "model/arena.h"
+#include "model/bar_tables.h"
 #include "model/case_table.h"
 #include "model/combination_table.h"
 #include "model/elements.h"
 #include "model/group_load_table.h"
 #include "model/group_table.h"
-#include "model/leading_tables.h"
 #include "model/loads.h"
 #include "model/table.h"
 
 namespace tamur {
 
 struct Model {
-    // Strings and arrays of every record below.
+    // Strings and arrays of every record below, and the labels of the bars.
     Arena arena;
 
     std::string version;            // of the file, as written; at most 255 bytes
     std::int32_t servicePack = -1;  // "#SP"; -1 when the file has none
     Settings settings;
 
-    // Elements refer to these by their place from 1 in file order.
-    Table<Material> materials{arena};
+    std::shared_ptr<BarTables> barTables = std::make_shared<BarTables>();
     bool hasDefaultMaterial = false;  // the table holds only the import's own material
-    Generation<Section> sections{arena};
     bool hasDefaultSection = false;
-    Table<Release> releases{arena};
     GroupTable groups{arena};
 
     CaseTable cases;
@@ -40,7 +38,6 @@ struct Model {
     Modes modes;
 
     Table<Node> nodes{arena};
-    Table<Bar> bars{arena};
     Table<Surface> surfaces{arena};
     Table<Opening> openings{arena};
     Table<Wall> walls{arena};

@@ -18,7 +18,15 @@ std::size_t WidenAscii(std::string_view text, OLECHAR* wide)
     return i;
 }
 
+struct EmptyText {
+    std::uint32_t byteLength;
+    OLECHAR end;
+};
+constexpr EmptyText kEmpty = {0, 0};
+
 }  // namespace
+
+constinit const Text kEmptyText(&kEmpty.end);
 
 char* WriteText(char* room, std::string_view text)
 {

@@ -18,7 +18,7 @@ using WideView = std::basic_string_view<OLECHAR>;
 class Text {
  public:
     Text() = default;
-    explicit Text(const OLECHAR* text) : text_(text) {}
+    constexpr explicit Text(const OLECHAR* text) : text_(text) {}
 
     [[nodiscard]] bool IsNull() const { return text_ == nullptr; }
     [[nodiscard]] const OLECHAR* Data() const { return text_; }
@@ -33,6 +33,9 @@ class Text {
  private:
     const OLECHAR* text_ = nullptr;
 };
+
+// An empty text that lives as long as the library.
+extern const Text kEmptyText;
 
 // How much room WriteText takes at most for `length` bytes of text.
 constexpr std::size_t TextRoom(std::size_t length)
@@ -50,7 +53,11 @@ inline Text TextAt(const char* room)
     return Text(reinterpret_cast<const OLECHAR*>(room + sizeof(std::uint32_t)));
 }
 
-// The place behind a text, where WriteText would put the next.
+// The place where WriteText laid out a text, and the one after it where it would put the next.
+inline const char* PlaceOf(Text text)
+{
+    return reinterpret_cast<const char*>(text.Data()) - sizeof(std::uint32_t);
+}
 inline const char* EndOf(Text text)
 {
     const std::size_t size = text.ByteLength() + sizeof(OLECHAR);
@@ -58,27 +65,5 @@ inline const char* EndOf(Text text)
 }
 
 [[nodiscard]] Text MakeText(Arena& arena, std::string_view text);
-
-// The labels of one element: their number and then the texts, one behind the other as WriteText
-// lays them out, at an 8-byte aligned place of an arena.
-class Labels {
- public:
-    Labels() = default;
-    explicit Labels(const char* block) : block_(block) {}
-
-    [[nodiscard]] std::uint32_t Count() const
-    {
-        std::uint32_t count = 0;
-        if (block_ != nullptr) std::memcpy(&count, block_, sizeof count);
-        return count;
-    }
-    [[nodiscard]] Text First() const { return TextAt(block_ + sizeof(std::uint32_t)); }
-
-    // Has the processor fetch them.
-    void Prefetch() const { __builtin_prefetch(block_); }
-
- private:
-    const char* block_ = nullptr;  // null when there are none
-};
 
 }  // namespace tamur

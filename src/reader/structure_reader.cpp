@@ -26,8 +26,6 @@ HRESULT MakeAccessor(Source&& source, Interface** out)
 
 }  // namespace
 
-CTAMURStructureReader::CTAMURStructureReader() : model_(std::make_shared<Model>()) {}
-
 IUnknown* CTAMURStructureReader::FindInterface(REFIID riid)
 {
     if (IsEqualIID(riid, IID_ISupportErrorInfo)) return static_cast<ISupportErrorInfo*>(this);
@@ -45,7 +43,7 @@ HRESULT CTAMURStructureReader::Import(BSTR FileName) noexcept
 {
     return Guarded([&] {
         const std::string path = platform::NarrowPath(FileName != nullptr ? FileName : OLESTR(""));
-        return ImportModelFile(*model_, path, openFiles_) ? S_OK : E_FAIL;
+        return ImportModelFile(model_, path, openFiles_) ? S_OK : E_FAIL;
     });
 }
 
@@ -53,71 +51,72 @@ HRESULT CTAMURStructureReader::GetMaterialAccessor(ITMRMaterialAccessor** out) n
 {
     *out = nullptr;
     return Guarded([&] {
-        return MakeAccessor<CTMRMaterialAccessor>(ArrayView(*model_, model_->materials), out);
+        return MakeAccessor<CTMRMaterialAccessor>(ArrayView(model_, model_.barTables->materials),
+                                                  out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetSectionAccessor(ITMRSectionAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRSectionAccessor>(ArrayView(*model_, model_->sections), out);
+        return MakeAccessor<CTMRSectionAccessor>(ArrayView(model_, model_.barTables->sections),
+                                                 out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetAttacheAccessor(ITMRAttacheAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRAttacheAccessor>(ArrayView(*model_, model_->releases), out);
+        return MakeAccessor<CTMRAttacheAccessor>(ArrayView(model_, model_.barTables->releases),
+                                                 out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetGroupeAccessor(ITMRGroupeAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRGroupeAccessor>(ArrayView(*model_, model_->groups.Groups()), out);
+        return MakeAccessor<CTMRGroupeAccessor>(ArrayView(model_, model_.groups.Groups()), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetFilaireAccessor(ITMRFilaireAccessor** out) noexcept
 {
-    return Guarded([&] { return MakeAccessor<CTMRFilaireAccessor>(BarsCopy(model_), out); });
+    return Guarded(
+        [&] { return MakeAccessor<CTMRFilaireAccessor>(SharedBars(model_.barTables), out); });
 }
 
 HRESULT CTAMURStructureReader::GetSurfaciqueAccessor(ITMRSurfaciqueAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRSurfaciqueAccessor>(FrozenCountView(*model_, model_->surfaces),
-                                                    out);
+        return MakeAccessor<CTMRSurfaciqueAccessor>(FrozenCountView(model_, model_.surfaces), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetOuvertureAccessor(ITMROuvertureAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMROuvertureAccessor>(FrozenCountView(*model_, model_->openings), out);
+        return MakeAccessor<CTMROuvertureAccessor>(FrozenCountView(model_, model_.openings), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetParoiAccessor(ITMRParoiAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRParoiAccessor>(FrozenCountView(*model_, model_->walls), out);
+        return MakeAccessor<CTMRParoiAccessor>(FrozenCountView(model_, model_.walls), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetAppuiPonctuelAccessor(ITMRAppuiPonctuelAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRAppuiPonctuelAccessor>(LiveView(*model_, model_->pointSupports),
-                                                       out);
+        return MakeAccessor<CTMRAppuiPonctuelAccessor>(LiveView(model_, model_.pointSupports), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetAppuiLineaireAccessor(ITMRAppuiLineaireAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRAppuiLineaireAccessor>(LiveView(*model_, model_->lineSupports),
-                                                       out);
+        return MakeAccessor<CTMRAppuiLineaireAccessor>(LiveView(model_, model_.lineSupports), out);
     });
 }
 
@@ -125,7 +124,7 @@ HRESULT CTAMURStructureReader::GetAppuiSurfaciqueAccessor(
     ITMRAppuiSurfaciqueAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRAppuiSurfaciqueAccessor>(LiveView(*model_, model_->surfaceSupports),
+        return MakeAccessor<CTMRAppuiSurfaciqueAccessor>(LiveView(model_, model_.surfaceSupports),
                                                          out);
     });
 }
@@ -133,58 +132,57 @@ HRESULT CTAMURStructureReader::GetAppuiSurfaciqueAccessor(
 HRESULT CTAMURStructureReader::GetCasAccessor(ITMRCasAccessor** out) noexcept
 {
     *out = nullptr;
-    return Guarded([&] { return MakeAccessor<CTMRCasAccessor>(CasesCopy(model_), out); });
+    return Guarded([&] { return MakeAccessor<CTMRCasAccessor>(CasesCopy(model_.cases), out); });
 }
 
 HRESULT CTAMURStructureReader::GetChargeAccessor(ITMRChargeAccessor** out) noexcept
 {
-    return Guarded([&] { return MakeAccessor<CTMRChargeAccessor>(*model_, out); });
+    return Guarded([&] { return MakeAccessor<CTMRChargeAccessor>(model_, out); });
 }
 
 HRESULT CTAMURStructureReader::GetNodeAccessor(ITMRNodeAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRNodeAccessor>(CheckedView<Node>(*model_, model_->nodes), out);
+        return MakeAccessor<CTMRNodeAccessor>(CheckedView<Node>(model_, model_.nodes), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetMessageAccessor(ITMRMessageAccessor** out) noexcept
 {
     *out = nullptr;
-    return Guarded([&] { return MakeAccessor<CTMRMessageAccessor>(model_->messages, out); });
+    return Guarded([&] { return MakeAccessor<CTMRMessageAccessor>(model_.messages, out); });
 }
 
 HRESULT CTAMURStructureReader::GetMasseAccessor(ITMRMasseAccessor** out) noexcept
 {
     return Guarded(
-        [&] { return MakeAccessor<CTMRMasseAccessor>(LiveView(*model_, model_->masses), out); });
+        [&] { return MakeAccessor<CTMRMasseAccessor>(LiveView(model_, model_.masses), out); });
 }
 
 HRESULT CTAMURStructureReader::GetCableAccessor(ITMRCableAccessor** out) noexcept
 {
     return Guarded(
-        [&] { return MakeAccessor<CTMRCableAccessor>(LiveView(*model_, model_->cables), out); });
+        [&] { return MakeAccessor<CTMRCableAccessor>(LiveView(model_, model_.cables), out); });
 }
 
 HRESULT CTAMURStructureReader::GetLineAideAccessor(ITMRLineAideAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRLineAideAccessor>(LiveView(*model_, model_->constructionLines),
-                                                  out);
+        return MakeAccessor<CTMRLineAideAccessor>(LiveView(model_, model_.constructionLines), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetLineInterieurAccessor(ITMRLineInterieurAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRLineInterieurAccessor>(LiveView(*model_, model_->innerLines), out);
+        return MakeAccessor<CTMRLineInterieurAccessor>(LiveView(model_, model_.innerLines), out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetDeplacementAccessor(ITMRDeplacementAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRDeplacementAccessor>(LiveView(*model_, model_->displacements), out);
+        return MakeAccessor<CTMRDeplacementAccessor>(LiveView(model_, model_.displacements), out);
     });
 }
 
@@ -192,14 +190,14 @@ HRESULT CTAMURStructureReader::GetSurfacicSectionAccessor(
     ITMRSurfacicSectionAccessor** out) noexcept
 {
     return Guarded([&] {
-        return MakeAccessor<CTMRSurfacicSectionAccessor>(LiveView(*model_, model_->surfaceSections),
+        return MakeAccessor<CTMRSurfacicSectionAccessor>(LiveView(model_, model_.surfaceSections),
                                                          out);
     });
 }
 
 HRESULT CTAMURStructureReader::GetStructureGlobalData(TMRStructureData* data) noexcept
 {
-    const Settings& settings = model_->settings;
+    const Settings& settings = model_.settings;
     *data = {settings.tolerance, settings.workSpace, settings.rigidity};
     return S_OK;
 }

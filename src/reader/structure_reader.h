@@ -12,8 +12,6 @@ namespace tamur {
 // Owns the model that was imported and makes the accessors over it.
 class CTAMURStructureReader : public ITAMURStructureReader, public ISupportErrorInfo {
  public:
-    CTAMURStructureReader();
-
     IUnknown* FindInterface(REFIID riid);
 
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID riid) noexcept override;
@@ -52,7 +50,7 @@ class CTAMURStructureReader : public ITAMURStructureReader, public ISupportError
 
  private:
     OpenFiles openFiles_;
-    std::shared_ptr<Model> model_;  // shared with the accessors that are copies
+    Model model_;
 };
 
 }  // namespace tamur

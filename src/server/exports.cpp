@@ -1,14 +1,16 @@
 // What the library exports.
+#include "com/guarded.h"
 #include "com/module.h"
 #include "platform/platform.h"
 #include "server/registration.h"
 
+using tamur::com::Guarded;
 using tamur::com::ObjectMapEntry;
 using tamur::com::TheModule;
 
 STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv)
 {
-    return TheModule().GetClassObject(rclsid, riid, ppv);
+    return Guarded([&] { return TheModule().GetClassObject(rclsid, riid, ppv); });
 }
 
 STDAPI DllCanUnloadNow()

@@ -38,11 +38,12 @@ TEST(ElementCounts, NegativeOnesAreTooFewForKindsThatNeedPoints)
     EXPECT_EQ(CountElements(*ImportedElements({"16 7 0 -2 0 1 2 3 4 5 6 0 0 0 5"})), 0);
 }
 
-TEST(ElementCounts, BeyondTheLengthOfTheLineDropIt)
+// For points the characters of the line are the limit, for labels those of the longest line.
+TEST(ElementCounts, ThatCannotBeMeantDropTheLine)
 {
     const std::vector<std::string> lines = {
         "17 7 0 100 0 1 2 3 4 5 6 0 0 0 8 9",
-        "17 7 0 0 100 A B 0 0 0 8 9",
+        "17 7 0 0 50000 A B 0 0 0 8 9",
         "17 7 0 2147483647 0 1 2 3",
         "17 7 0 0 2147483647 A",
         "1 7 0 2147483647 2147483647 1 2 3 0 0 0 5",
@@ -51,6 +52,50 @@ TEST(ElementCounts, BeyondTheLengthOfTheLineDropIt)
     for (const std::string& line : lines) {
         EXPECT_EQ(CountElements(*ImportedElements({line})), 0) << line;
     }
+}
+
+TEST(ElementCounts, OfMoreLabelsThanTheLineHoldsAreKept)
+{
+    const auto reader = ImportedElements(
+        {"1 7 0 1 40 1 2 3", "1 8 0 1 49999 4 5 6 A B", "17 9 0 0 60 L 0 0 0 8 9"});
+    const auto bare = Nodes(*reader).At(0);
+    EXPECT_THAT(Coordinates(bare->Geometrie), ElementsAre(1, 2, 3));
+    EXPECT_EQ(TextsOf(bare->ElemLabels), std::vector<std::string>(40));
+
+    const auto most = Nodes(*reader).At(1);
+    std::vector<std::string> expected = {"A", "B"};
+    expected.resize(49999);
+    EXPECT_EQ(TextsOf(most->ElemLabels), expected);
+
+    // The columns are words too, as long as labels are wanted.
+    const auto opening = Ouvertures(*reader).At(0);
+    expected = {"L", "0", "0", "0", "8", "9"};
+    expected.resize(60);
+    EXPECT_EQ(TextsOf(opening->ElemLabels), expected);
+    EXPECT_EQ(opening->NbXMesh, 0);
+}
+
+TEST(ElementCounts, OfLabelsThatAreNotThereGiveEmptyTextsNotNullOnes)
+{
+    const auto reader = ImportedElements(
+        {"1 7 0 1 3 1 2 3 A", ElementLine(2).Points({"0 0 0", "1 0 0"}), "2 8 0 2 2 0 0 0 0 0 1"});
+    const auto node = Nodes(*reader).At(0);
+    const auto bar = Filaires(*reader).At(1);
+    ASSERT_EQ(bar->ElemLabels.nbLabels, 2);
+    for (const BSTR label : {node->ElemLabels.tabLabels[1], node->ElemLabels.tabLabels[2],
+                             bar->ElemLabels.tabLabels[0], bar->ElemLabels.tabLabels[1]}) {
+        ASSERT_NE(label, nullptr);
+        EXPECT_EQ(SysStringByteLen(label), 0u);
+        EXPECT_EQ(label[0], 0);
+    }
+}
+
+TEST(ElementCounts, OfMoreLabelsThanTheLineHoldsAreKeptForKindsWithoutLabels)
+{
+    const auto reader = ImportedElements({"5 7 0 1 60 1 2 3 0 0 0 4"});
+    ASSERT_EQ(ChargesPonctuelles(*reader).Size(), 1);
+    EXPECT_THAT(Coordinates(ChargesPonctuelles(*reader).At(0)->Geometrie), ElementsAre(1, 2, 3));
+    EXPECT_EQ(ChargesPonctuelles(*reader).At(0)->NumCas, 0);
 }
 
 TEST(ElementCounts, BeyondTheLengthOfTheLineLeaveTheLoadCaseAlone)

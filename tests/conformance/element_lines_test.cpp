@@ -129,5 +129,21 @@ TEST(ElementLabels, ThatTheLineDoesNotHoldAreEmpty)
     EXPECT_EQ(node->blocage, 0);
 }
 
+TEST(ElementLabels, MayBeLong)
+{
+    for (const std::size_t length : {254u, 255u, 256u, 5000u, 49900u}) {
+        const std::string label(length, 'L');
+        const auto reader = ImportedElements(
+            {ElementLine(1).Points({"1 2 3"}).Labels({label, "A"}).Columns("5"),
+             ElementLine(2).Points({"0 0 0", "1 0 0"}).Labels({"B", label}).Columns("3")});
+        const auto node = Nodes(*reader).At(0);
+        EXPECT_EQ(TextsOf(node->ElemLabels), (std::vector<std::string>{label, "A"}));
+        EXPECT_EQ(node->blocage, 5) << length;
+        const auto bar = Filaires(*reader).At(0);
+        EXPECT_EQ(TextsOf(bar->ElemLabels), (std::vector<std::string>{"B", label}));
+        EXPECT_EQ(bar->GroupNumber, 3) << length;
+    }
+}
+
 }  // namespace
 }  // namespace tamur::test

@@ -55,16 +55,39 @@ TEST(Envelopes, MayHaveNoCases)
     EXPECT_NE(envelope->pCases, nullptr);
 }
 
-TEST(Envelopes, CountThatIsNegativeOrThatTheLineCannotHoldIsNone)
+// An envelope whose line ends with that number of cases, of which there are two.
+void ExpectCountAndNoCases(const std::string& announced, int expected)
 {
-    for (const char* count : {"-1", "-2147483648", "500", "2147483647", "99999999999"}) {
-        SCOPED_TRACE(count);
-        const auto envelope = EnvelopeOf(std::string("12 9 1 2 3 4 5 6 7 8 9 O ") + count + " 4 5");
-        EXPECT_EQ(envelope->iNbCases, 0);
-        EXPECT_NE(envelope->pCases, nullptr);
-        EXPECT_EQ(envelope->iParamValeurS, 9);
-        EXPECT_EQ(envelope->bConserverCas, 1);
-    }
+    SCOPED_TRACE(announced);
+    const auto envelope = EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O " + announced + " 4 5");
+    EXPECT_EQ(envelope->iNbCases, expected);
+    EXPECT_NE(envelope->pCases, nullptr);
+    EXPECT_EQ(envelope->iParamValeurS, 9);
+    EXPECT_EQ(envelope->bConserverCas, 1);
+}
+
+TEST(Envelopes, NegativeCountIsKeptAndHasNoCases)
+{
+    ExpectCountAndNoCases("-1", -1);
+    ExpectCountAndNoCases("-2147483648", -2147483647 - 1);
+}
+
+// A line has 49999 characters at most, so such a number cannot be meant.
+TEST(Envelopes, CountBeyondAnyLineIsNone)
+{
+    ExpectCountAndNoCases("50000", 0);
+    ExpectCountAndNoCases("2147483647", 0);
+    ExpectCountAndNoCases("99999999999", 0);
+}
+
+TEST(Envelopes, CountBeyondTheLineIsKeptAndTheMissingCasesAreZero)
+{
+    std::vector<int> expected(40, 0);
+    expected[0] = 7;
+    EXPECT_EQ(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 40 7")), expected);
+    expected.resize(49999, 0);
+    EXPECT_EQ(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 49999 7")), expected);
+    EXPECT_EQ(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 40")), std::vector<int>(40, 0));
 }
 
 TEST(Envelopes, CasesThatTheLineDoesNotHoldAreZero)

@@ -1,6 +1,7 @@
 // Models with load cases, and what the tests ask of them.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -42,10 +43,11 @@ inline std::vector<int> CaseNumbersOf(ITAMURStructureReader& reader)
     return numbers;
 }
 
+// The values of a block; none for a count of 0 or below.
 template <class Value>
 std::vector<Value> Values(const Value* values, int count)
 {
-    return std::vector<Value>(values, values + count);
+    return std::vector<Value>(values, values + std::max(count, 0));
 }
 
 }  // namespace tamur::test

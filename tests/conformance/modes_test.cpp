@@ -6,9 +6,11 @@
 namespace tamur::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 const std::vector<std::string> kCases = {"5 Modal 3 M 0"};
 
@@ -122,21 +124,53 @@ TEST(Modes, ValuesThatTheLineDoesNotHoldAreZero)
     EXPECT_THAT(DampingsOf(ModesOf({ModalLine(2, "1e999 0.06")})), ElementsAre(0, 0));
 }
 
-TEST(Modes, NegativeCountIsNone)
+TEST(Modes, NegativeCountIsKeptAndHasNoValues)
 {
-    const auto modes = ModesOf({ModalLine(-3, "0.05")});
-    EXPECT_EQ(modes->iNrOfModes, 0);
-    EXPECT_NE(modes->pDampingValues, nullptr);
-    EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
-    EXPECT_EQ(modes->bResidualMode, 1);
+    for (const int count : {-1, -3, -2147483647 - 1}) {
+        const auto modes = ModesOf({ModalLine(count, "0.05")});
+        EXPECT_EQ(modes->iNrOfModes, count);
+        EXPECT_NE(modes->pDampingValues, nullptr);
+        EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
+        EXPECT_EQ(modes->bResidualMode, 1);
+    }
 }
 
-TEST(Modes, CountThatTheLineCannotHoldIsNone)
+TEST(Modes, CountBeyondTheLineIsKeptAndTheMissingValuesAreZero)
 {
-    const auto modes = ModesOf({ModalLine(2000000000, "0.05")});
-    EXPECT_EQ(modes->iNrOfModes, 0);
-    EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
-    EXPECT_EQ(modes->bResidualMode, 1);
+    const auto hundred = ModesOf({"2 3 100 90 90 90 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 x 41 N x"});
+    EXPECT_EQ(hundred->iNrOfModes, 100);
+    EXPECT_THAT(DampingsOf(hundred), AllOf(SizeIs(100), Each(0.0)));
+
+    const auto most = ModesOf({ModalLine(49999, "0.05 0.06")});
+    EXPECT_EQ(most->iNrOfModes, 49999);
+    std::vector<double> expected(49999, 0.0);
+    expected[0] = 0.05;
+    expected[1] = 0.06;
+    EXPECT_EQ(DampingsOf(most), expected);
+}
+
+// A line has 49999 characters at most, so such a number cannot be meant.
+TEST(Modes, CountBeyondAnyLineIsNone)
+{
+    for (const int count : {50000, 2000000000}) {
+        const auto modes = ModesOf({ModalLine(count, "0.05")});
+        EXPECT_EQ(modes->iNrOfModes, 0);
+        EXPECT_NE(modes->pDampingValues, nullptr);
+        EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
+        EXPECT_EQ(modes->bResidualMode, 1);
+    }
+}
+
+TEST(Modes, SkippedWordsMayBeLong)
+{
+    for (const std::size_t length : {255u, 256u, 5000u}) {
+        const std::string word(length, 'w');
+        const auto modes = ModesOf({"5 3 1 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 " + word +
+                                    " 41 O " + word + " 0.05"});
+        EXPECT_EQ(modes->iCalculMethod, 0) << length;
+        EXPECT_EQ(modes->bResidualMode, 1) << length;
+        EXPECT_THAT(DampingsOf(modes), ElementsAre(0.05)) << length;
+    }
 }
 
 TEST(Modes, CountBeyond32BitsEndsTheLine)
@@ -185,6 +219,17 @@ TEST(Modes, EveryFurtherLineEndsWithoutModes)
     const auto modes = ModesOf({ModalLine(1, "0.05"), ModalLine(1, "0.06"), ModalLine(1, "0.07")});
     EXPECT_EQ(modes->iNrOfModes, 0);
     EXPECT_EQ(ModesOf({ModalLine(1, "0.05"), ModalLine(0), ModalLine(2, "1 2")})->iNrOfModes, 0);
+    EXPECT_EQ(ModesOf({ModalLine(1, "0.05"), ModalLine(-1)})->iNrOfModes, 0);
+}
+
+TEST(Modes, SecondLineIsReadInFullWhenTheFirstMadeNoDampings)
+{
+    for (const int first : {0, -1, 50000}) {
+        const auto modes = ModesOf({ModalLine(first), ModalLine(2, "0.05 0.06", "1 2 3")});
+        EXPECT_EQ(modes->iNrOfModes, 2) << first;
+        EXPECT_THAT(PercentagesOf(modes), ElementsAre(1, 2, 3)) << first;
+        EXPECT_THAT(DampingsOf(modes), ElementsAre(0.05, 0.06)) << first;
+    }
 }
 
 TEST(Modes, ShortSecondLineLeavesTheRestAsItWas)

@@ -92,16 +92,25 @@ TEST(Sections, ShapesAreNamedByTheirDimensions)
                      "I30*1*20", "R20*30", "IPE300"}));
 }
 
-// A name of more than 255 characters is cut; the rest is taken for the next column.
-TEST(Sections, LongNameIsCut)
+TEST(Sections, LongNameIsOneName)
 {
-    const std::string longest(255, 'N');
-    const auto reader = ImportedSections({longest + " 1", longest + "12 34", longest + "NN 1"});
-    EXPECT_EQ(SectionNames(*reader), (Names{longest, longest, longest}));
-    EXPECT_EQ(Sections(*reader).At(0)->Sx, 1.0);
-    EXPECT_EQ(Sections(*reader).At(1)->Sx, 12.0);
-    EXPECT_EQ(Sections(*reader).At(1)->Sy, 34.0);
-    EXPECT_EQ(Sections(*reader).At(2)->Sx, 0.0);
+    for (const std::size_t length : {254u, 255u, 256u, 257u, 300u, 40000u}) {
+        const std::string name(length, 'N');
+        const auto reader = ImportedSections({name + " 1 2 3 4 5 6 7 8 9 10 11 1 P 12 13"});
+        EXPECT_EQ(SectionNames(*reader), (Names{name}));
+        const auto section = Sections(*reader).At(0);
+        EXPECT_EQ(section->Sx, 1.0) << length;
+        EXPECT_EQ(section->V2z, 11.0) << length;
+        ASSERT_EQ(section->epureSec.nbPoints, 1) << length;
+        EXPECT_EQ(section->epureSec.pTabPoints[1], 13.0) << length;
+    }
+}
+
+TEST(Sections, LongShapeNameIsRewrittenWhole)
+{
+    const std::string zeros(300, '0');
+    EXPECT_EQ(SectionNames(*ImportedSections({"I" + zeros + "30*1*0.5*20 1"})),
+              (Names{"I22*0.5*30*1"}));
 }
 
 // ------------------------------------------------------------------ outline
@@ -126,6 +135,13 @@ void ExpectOutline(const std::string& tokens, const Outline& expected)
               expected.coordinates);
     EXPECT_EQ(outline.dfRadius, expected.radius);
     EXPECT_EQ(section->V2z, 11.0);
+}
+
+// Those values, and zeros up to that number.
+Reals BeginningWith(Reals values, std::size_t size)
+{
+    values.resize(size, 0.0);
+    return values;
 }
 
 TEST(SectionOutline, LineThatEndsBeforeTheCodeIsAnF)
@@ -172,15 +188,28 @@ TEST(SectionOutline, MissingRadiusIsZero)
     ExpectOutline("1 C 1 2 x", {'C', 1, {1, 2}, 0});
 }
 
-TEST(SectionOutline, NegativeCountIsNone)
+TEST(SectionOutline, NegativeCountIsKeptAndHasNoPoints)
 {
-    ExpectOutline("-1 C 0.25", {'C', 0, {}, 0.25});
-    ExpectOutline("-2147483648 S 1 2 3", {'S', 0, {}, 0});
+    ExpectOutline("-1 C 0.25", {'C', -1, {}, 0.25});
+    ExpectOutline("-2 F", {'F', -2, {}, 0});
+    ExpectOutline("-2147483648 S 1 2 3", {'S', -2147483647 - 1, {}, 0});
 }
 
-TEST(SectionOutline, CountThatTheLineCannotHoldIsNone)
+TEST(SectionOutline, CountBeyondTheLineIsKeptAndTheMissingPointsAreZero)
 {
-    ExpectOutline("100000 C 0.25", {'C', 0, {}, 0.25});
+    ExpectOutline("50 F", {'F', 50, Reals(100, 0.0), 0});
+    ExpectOutline("60 S", {'S', 60, Reals(180, 0.0), 0});
+    ExpectOutline("99 C 0.25", {'C', 99, BeginningWith({0.25}, 198), 0});
+    ExpectOutline("49999 P 1 2 3", {'P', 49999, BeginningWith({1, 2, 3}, 99998), 0});
+    ExpectOutline("49999 S 1 2 3", {'S', 49999, BeginningWith({1, 2, 0, 3}, 149997), 0});
+}
+
+// A line has 49999 characters at most, so such a number cannot be meant. What follows it is not
+// read: coordinates would be taken for a radius.
+TEST(SectionOutline, CountBeyondAnyLineIsNone)
+{
+    ExpectOutline("50000 C 0.25", {'C', 0, {}, 0});
+    ExpectOutline("100000 F 1 2 3 4 0.5", {'F', 0, {}, 0});
     ExpectOutline("2147483647 S 1 2 3", {'S', 0, {}, 0});
 }
 

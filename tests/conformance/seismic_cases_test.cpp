@@ -200,6 +200,22 @@ TEST(SeismicCases, SkippedWordsMayBeAnything)
     ExpectWholeTail(SeismicOf(line));
 }
 
+TEST(SeismicCases, SkippedWordsMayBeLong)
+{
+    for (const std::size_t length : {255u, 256u, 5000u}) {
+        const std::string word(length, 'w');
+        std::string line = "7 4 O N N " + word + " 0 1.5 2.5 N 3 4 0 0.5 1.25 inf inf";
+        for (int i = 0; i < 38; ++i) line += " w";
+        line += " " + word + " 6 1.5 2.5 " + word + " " + word + " 3 O " + word + " 4 5.5 2 O";
+        const auto seismic = SeismicOf(line);
+        EXPECT_EQ(seismic->iPointsSpectrum, 1) << length;
+        EXPECT_EQ(seismic->iWorkClass, 6) << length;
+        EXPECT_EQ(seismic->iSite, 3) << length;
+        EXPECT_EQ(seismic->dTopographicCoeff, 5.5) << length;
+        EXPECT_EQ(seismic->bDampingsLimitation, 1) << length;
+    }
+}
+
 TEST(SeismicCases, SpectrumThatEndsTheLineLeavesTheTailZero)
 {
     const auto seismic = SeismicOf("7 4 N O N mot 0.5 0.8 0.9 O 2 3 0.25 0.1 2.5 0.5 3.5");

@@ -236,6 +236,7 @@ TEST(FailingMemory, EveryAllocationOfAReaderMayFail)
         EXPECT_FALSE(factory);
         memory.FailNoMore();
         classObjects += memory.HasFailed();
+        (void)platform::PrepareForBadAlloc();  // what was given up for the error comes back
         EXPECT_EQ(memory.BlocksAlive(), 0);
         ASSERT_EQ(getFactory(factory), S_OK);
 

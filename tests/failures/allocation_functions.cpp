@@ -1,5 +1,5 @@
-// What stands in for the run time's allocation functions: the linker leads every malloc and free of
-// this program here (--wrap).
+// What stands in for the run time's allocation functions: the linker leads every malloc, calloc and
+// free of this program here (--wrap).
 #include <malloc.h>
 
 #include <cstdlib>
@@ -27,12 +27,20 @@ std::size_t SizeOf(void* block)
 extern "C" {
 
 void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
 void* __real_realloc(void* block, std::size_t size);
 void __real_free(void* block);
 
 void* __wrap_malloc(std::size_t size)
 {
     void* const block = MayAllocate(size) ? __real_malloc(size) : nullptr;
+    if (block != nullptr) NoteAllocated(SizeOf(block));
+    return block;
+}
+
+void* __wrap_calloc(std::size_t count, std::size_t size)
+{
+    void* const block = MayAllocate(count * size) ? __real_calloc(count, size) : nullptr;
     if (block != nullptr) NoteAllocated(SizeOf(block));
     return block;
 }
@@ -76,9 +84,12 @@ void* operator new(std::size_t size)
     }
 }
 
+// As the run time has it: it throws and catches, which takes memory of its own.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    return std::malloc(size == 0 ? 1 : size);
+try {
+    return ::operator new(size);
+} catch (...) {
+    return nullptr;
 }
 
 void operator delete(void* block) noexcept

@@ -90,6 +90,68 @@ TEST(FailingMemory, ManyRecordsAreAllTakenBack)
     EXPECT_GT(FailEveryAllocation(ModelText().Elements(lines).Text()), 15u);
 }
 
+std::string Repeated(const std::string& text, int count)
+{
+    std::string all;
+    for (int i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+// Each with one list that needs memory of its own: more than an arena begins with.
+std::vector<Seed> ModelsOfOneLongList()
+{
+    const std::string constants = " 1 2 3 4 5 6 7 8 9 10 11 ";
+    const std::string modes = " 90 91 92 1" + Repeated(" 1 0.5", 8) + " 1 mot 41 O mot";
+    const auto parameters = [](const std::string& line) {
+        return ModelText()
+            .Section("#Cas", {"1 G 1 G 0", "5 C 2 C 0", "6 M 3 M 0", "7 S 4 S 0", "8 E 9 E 0"})
+            .Section("#TAB_PARAM_CAS", {line})
+            .Text();
+    };
+    const auto elements = [](const std::vector<std::string>& lines) {
+        return ModelText().Elements(lines).Text();
+    };
+    const std::string corners = Repeated(" 1.5 2.5 3.5", 3000);
+
+    std::string cases = ModelText().Raw("#Cas\n").Text();
+    std::string combination = "#TAB_PARAM_CAS\n9999 2";
+    for (int i = 1; i <= 4000; ++i) {
+        cases += std::to_string(i) + " G 1 G 0\n";
+        combination += " " + std::to_string(i) + " 1.5";
+    }
+    std::vector<std::string> refused;
+    for (int i = 0; i < 300; ++i) refused.push_back("8 1 0 0 0 0 0 0 77 0 0 -1 1 1");
+
+    return {
+        {"dampings", parameters("6 3 5000" + modes + Repeated(" 0.05", 5000))},
+        {"few of many dampings", parameters("6 3 49999" + modes + Repeated(" 0.05", 5000))},
+        {"spectrum",
+         parameters("7 4 O N N mot 0 0.8 0.9 O 1 2 0" + Repeated(" 0.1 2.5", 5000) + " inf inf")},
+        {"envelope", parameters("8 9 1 2 3 4 5 6 7 8 9 O 9000" + Repeated(" 12", 9000))},
+        {"combination", cases + "9999 C 2 C 0\n" + combination + " 32767 0\n"},
+        {"outline",
+         ModelText()
+             .Section("#Geometries", {"A" + constants + "3000 S" + Repeated(" 1.5 2.5", 3000) +
+                                      Repeated(" 3.5", 3000)})
+             .Text()},
+        {"labels of a node", elements({"1 7 0 1 4000 1 2 3" + Repeated(" Label", 4000)})},
+        {"labels of a bar", elements({"2 7 0 2 4000 0 0 0 0 0 3" + Repeated(" Label", 4000)})},
+        {"polygon", elements({"3 7 0 3000 0" + corners + " 0 0 0 1"})},
+        {"wall", elements({"20 7 0 3000 0" + corners + " 0 0 0 1 O N 1 2 3"})},
+        {"messages", elements(refused)},
+    };
+}
+
+// A count that its list does not have would show as a crash when the reader is read afterwards.
+TEST(FailingMemory, ListsThatTakeMemoryOfTheirOwnAreWholeOrNotThere)
+{
+    const QuietBoxes boxes;
+    for (const Seed& model : ModelsOfOneLongList()) {
+        SCOPED_TRACE(model.name);
+        EXPECT_GE(FailEveryAllocation(model.text), 5u);
+    }
+}
+
 TEST(FailingMemory, AMissingFileThatCannotBeToldAboutIsOutOfMemory)
 {
     const QuietBoxes boxes;

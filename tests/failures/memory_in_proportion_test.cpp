@@ -46,7 +46,7 @@ TEST(MemoryInProportion, FilesMadeToBeSlowStayWithinTheLimit)
 TEST(MemoryInProportion, CountsWithoutAnythingBehindThemTakeNothing)
 {
     const QuietBoxes boxes;
-    const std::string huge[] = {"2147483647", "4294967295", "99999999999", "1000000"};
+    const std::string huge[] = {"2147483647", "4294967295", "99999999999", "1000000", "49999"};
     const std::int64_t usual = PeakOfImport(EveryTable().Text());
     for (const std::string& count : huge) {
         const std::string lines[] = {

@@ -87,12 +87,13 @@ void NoteFreed(std::size_t bytes)
     counts.bytes -= static_cast<std::int64_t>(bytes);
 }
 
-MemoryWatch::MemoryWatch()
+MemoryWatch::MemoryWatch(Thread thread)
 {
-    // The first exception of a thread may make something that stays.
-    try {
-        throw 0;
-    } catch (int) {
+    if (thread == Thread::kPrepared) {
+        try {
+            throw 0;
+        } catch (int) {
+        }
     }
     counts = {};
     watched = ThisThread();
@@ -130,6 +131,11 @@ std::uint64_t MemoryWatch::Allocations() const
 std::int64_t MemoryWatch::BlocksAlive() const
 {
     return counts.blocks;
+}
+
+std::int64_t MemoryWatch::BytesAlive() const
+{
+    return counts.bytes;
 }
 
 std::int64_t MemoryWatch::PeakBytes() const

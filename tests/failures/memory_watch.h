@@ -12,7 +12,10 @@ enum class Failing { kOnce, kFromThereOn };
 // allocates by new and malloc and, on Windows, as strings and task memory. One at a time.
 class MemoryWatch {
  public:
-    MemoryWatch();
+    // The first exception of a thread may make something that stays: it is thrown here, unless the
+    // call that may fail is to be the first of its process.
+    enum class Thread { kPrepared, kAsItIs };
+    explicit MemoryWatch(Thread thread = Thread::kPrepared);
     MemoryWatch(const MemoryWatch&) = delete;
     MemoryWatch& operator=(const MemoryWatch&) = delete;
     ~MemoryWatch();
@@ -25,6 +28,7 @@ class MemoryWatch {
     // Since the watch began.
     [[nodiscard]] std::uint64_t Allocations() const;
     [[nodiscard]] std::int64_t BlocksAlive() const;
+    [[nodiscard]] std::int64_t BytesAlive() const;
     [[nodiscard]] std::int64_t PeakBytes() const;
 };
 

@@ -27,7 +27,7 @@ TEST(DefaultMaterial, IsFlaggedOnlyByTheImportThatMadeIt)
     EXPECT_FALSE(model.hasDefaultMaterial) << "the table holds a record already";
     Read(ReadMaterials, model, "#Materiaux\nA 1\n");
     EXPECT_FALSE(model.hasDefaultMaterial);
-    EXPECT_EQ(model.materials.Size(), 2u);
+    EXPECT_EQ(model.barTables->materials.Size(), 2u);
 }
 
 TEST(DefaultMaterial, IsFlaggedForASectionWithoutLines)
@@ -44,10 +44,10 @@ TEST(DefaultSection, IsFlaggedOnlyByTheImportThatMadeIt)
     EXPECT_TRUE(model.hasDefaultSection);
     Read(ReadSectionGeometries, model, "");
     EXPECT_FALSE(model.hasDefaultSection);
-    EXPECT_EQ(model.sections.Size(), 0u);
+    EXPECT_EQ(model.barTables->sections.Size(), 0u);
     Read(ReadSectionGeometries, model, "#Geometries\nA 1\n");
     EXPECT_FALSE(model.hasDefaultSection);
-    EXPECT_EQ(model.sections.Size(), 1u);
+    EXPECT_EQ(model.barTables->sections.Size(), 1u);
 }
 
 TEST(HShape, IsMarkedOnlyWhereTheNameWasRewrittenFromAnH)
@@ -55,9 +55,10 @@ TEST(HShape, IsMarkedOnlyWhereTheNameWasRewrittenFromAnH)
     Model model;
     Read(ReadSectionGeometries, model,
          "#Geometries\nH30*1*0.5*20\nH30*1*20\nI30*1*0.5*20\nHEA200\nH1.5*20*17*0.9\n");
-    ASSERT_EQ(model.sections.Size(), 5u);
+    ASSERT_EQ(model.barTables->sections.Size(), 5u);
     const bool kExpected[] = {true, false, false, false, true};
-    for (std::size_t i = 0; i < 5; ++i) EXPECT_EQ(model.sections[i].isHShape, kExpected[i]) << i;
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_EQ(model.barTables->sections[i].isHShape, kExpected[i]) << i;
 }
 
 }  // namespace

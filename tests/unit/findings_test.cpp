@@ -100,11 +100,20 @@ TEST(Findings, CountsThatCannotBeMeant)
     EXPECT_THAT(FindingsInSection("#Geometries", {"S 1 2 3 4 5 6 7 8 9 10 11 -1 F"}),
                 ElementsAre(Found{Finding::kListCountIgnored, "S 1 2 3 4 5 6 7 8 9 10 11 -1 F"}));
     EXPECT_THAT(
-        FindingsInSection("#Geometries", {"S 1 2 3 4 5 6 7 8 9 10 11 99 F"}),
-        testing::Contains(Found{Finding::kListCountIgnored, "S 1 2 3 4 5 6 7 8 9 10 11 99 F"}));
-    EXPECT_THAT(FindingsInSection("#Elements", {"1 7 0 99 0 1 2 3", "1 7 0 1 99 1 2 3"}),
+        FindingsInSection("#Geometries", {"S 1 2 3 4 5 6 7 8 9 10 11 50000 F"}),
+        ElementsAre(Found{Finding::kListCountIgnored, "S 1 2 3 4 5 6 7 8 9 10 11 50000 F"}));
+    EXPECT_THAT(FindingsInSection("#Elements", {"1 7 0 99 0 1 2 3", "1 7 0 1 50000 1 2 3"}),
                 ElementsAre(Found{Finding::kCountBeyondLine, "1 7 0 99 0 1 2 3"},
-                            Found{Finding::kCountBeyondLine, "1 7 0 1 99 1 2 3"}));
+                            Found{Finding::kCountBeyondLine, "1 7 0 1 50000 1 2 3"}));
+}
+
+TEST(Findings, ListsShorterThanTheirCount)
+{
+    const Finding unreadable = Finding::kUnreadableColumn;
+    EXPECT_THAT(FindingsInSection("#Geometries", {"S 1 2 3 4 5 6 7 8 9 10 11 99 F"}),
+                ElementsAre(Found{unreadable, "S 1 2 3 4 5 6 7 8 9 10 11 99 F"}));
+    EXPECT_THAT(FindingsInSection("#Elements", {"1 7 0 1 99 1 2 3"}),
+                ElementsAre(Found{unreadable, "1 7 0 1 99 1 2 3"}));
 }
 
 TEST(Findings, LoadCasesAndTheirParameters)

@@ -14,8 +14,8 @@ std::vector<bool> HShapesOf(const std::string& content)
     Model model;
     EXPECT_TRUE(ReadSectionGeometries(model, file));
     std::vector<bool> shapes;
-    for (std::size_t i = 0; i < model.sections.Size(); ++i) {
-        shapes.push_back(model.sections[i].isHShape);
+    for (std::size_t i = 0; i < model.barTables->sections.Size(); ++i) {
+        shapes.push_back(model.barTables->sections[i].isHShape);
     }
     return shapes;
 }

@@ -51,7 +51,7 @@ bool WordAgrees(StreamScanner& scanner, std::istringstream& stream)
     std::string_view ours;
     std::string theirs;
     scanner >> ours;
-    stream >> std::setw(kLongestWord) >> theirs;
+    stream >> theirs;
     return stream.fail() ? scanner.Failed() && ours.empty() : !scanner.Failed() && ours == theirs;
 }
 
@@ -186,14 +186,64 @@ TEST(StreamScanner, UnderflowIsRounded)
     EXPECT_EQ(smallest, std::numeric_limits<double>::denorm_min());
 }
 
-TEST(StreamScanner, WordBeyond255CharactersIsTwoWords)
+// Ends of tokens are looked for 64 characters at a time; longer tokens are read another way.
+constexpr std::size_t kLengths[] = {1,   2,   61,  62,  63,  64,  65,  66,  126,  127,
+                                    128, 129, 130, 254, 255, 256, 257, 258, 49990};
+
+TEST(StreamScanner, WordsOfAnyLengthAreWhole)
 {
-    const Padded line(std::string(300, 'w'));
-    StreamScanner tokens = line.Scanner();
-    std::string_view first, second;
-    tokens >> first >> second;
-    EXPECT_EQ(first.size(), 255u);
-    EXPECT_EQ(second.size(), 45u);
+    for (const std::size_t before : kLengths) {
+        for (const std::size_t length : kLengths) {
+            const std::string first(before, 'a');
+            const std::string word(length, 'w');
+            for (const char* blank : {" ", "  ", "\t"}) {
+                const Padded line(first + blank + word + blank + "12");
+                StreamScanner tokens = line.Scanner();
+                std::string_view one, two;
+                std::int32_t number = 0;
+                tokens >> one >> two >> number;
+                ASSERT_EQ(one, first) << before << " then " << length;
+                ASSERT_EQ(two, word) << before << " then " << length;
+                ASSERT_EQ(number, 12) << before << " then " << length;
+                ASSERT_FALSE(tokens.Failed());
+            }
+        }
+    }
+}
+
+TEST(StreamScanner, NumbersOfAnyLengthAreWhole)
+{
+    for (const std::size_t before : kLengths) {
+        for (const std::size_t length : kLengths) {
+            const Padded line(std::string(before, 'a') + " " + std::string(length - 1, '0') +
+                              "7 0." + std::string(length - 1, '0') + "5 w");
+            StreamScanner tokens = line.Scanner();
+            std::string_view word;
+            std::int32_t integer = 0;
+            double real = -1;
+            char last = 0;
+            tokens >> word >> integer >> real >> last;
+            ASSERT_EQ(integer, 7) << before << " then " << length;
+            ASSERT_EQ(real, length < 400 ? std::stod("5e-" + std::to_string(length)) : 0.0)
+                << before << " then " << length;
+            ASSERT_EQ(last, 'w') << before << " then " << length;
+        }
+    }
+}
+
+TEST(StreamScanner, CharactersInFrontOfWordsOfAnyLengthAreTheirFirst)
+{
+    for (const std::size_t length : kLengths) {
+        const Padded line("Ow" + std::string(length, 'w') + " 3");
+        StreamScanner tokens = line.Scanner();
+        char flag = 0;
+        std::string_view rest;
+        std::int32_t number = 0;
+        tokens >> flag >> rest >> number;
+        ASSERT_EQ(flag, 'O');
+        ASSERT_EQ(rest.size(), length + 1);
+        ASSERT_EQ(number, 3);
+    }
 }
 
 TEST(StreamScanner, NumberOfThousandsOfDigitsIsRead)

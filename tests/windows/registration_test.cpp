@@ -1,6 +1,7 @@
 // Registration by the system's own program, seen from this process. The registry is shared, so
 // every test leaves it without the component.
 #include <gtest/gtest.h>
+#include <tamur/prog_ids.h>
 
 #include "support/component_under_test.h"
 #include "windows/paths.h"
@@ -84,6 +85,17 @@ TEST_F(Registration, NamesResolveToClasses)
             CLSID classId = {};
             EXPECT_EQ(CLSIDFromProgID(name.c_str(), &classId), S_OK);
             EXPECT_TRUE(IsEqualGUID(classId, *one.id));
+        }
+    }
+}
+
+TEST_F(Registration, NamesAreThoseThatHostsWithoutARegistryFind)
+{
+    for (const ProgId& progId : kProgIds) {
+        for (const OLECHAR* name : {progId.name, progId.versioned}) {
+            CLSID classId = {};
+            EXPECT_EQ(CLSIDFromProgID(name, &classId), S_OK);
+            EXPECT_TRUE(IsEqualGUID(classId, *ClassOfProgId(name)));
         }
     }
 }

@@ -58,7 +58,7 @@ const char* TextOf(Finding finding)
         case Finding::kCombinationSkipped:
             return "a combined case is missing: dropped and disabled";
         case Finding::kCombinationUnended: return "combination without its end marker: kept";
-        case Finding::kListCountIgnored: return "a count that cannot be meant: taken as 0";
+        case Finding::kListCountIgnored: return "a count that cannot be meant: no values read";
     }
     return "";
 }

@@ -19,13 +19,15 @@ std::uint32_t ResolveSection(std::int32_t number, const Model& model, const Mode
         bar.remarks.missingSection = true;
         number = 1;
     }
-    return ResolveReference(model.hasDefaultSection ? 1 : number, model.sections.first,
-                            model.sections.Size(), file, Finding::kSectionReplaced);
+    const Generation<Section>& sections = model.barTables->sections;
+    return ResolveReference(model.hasDefaultSection ? 1 : number, sections.first, sections.Size(),
+                            file, Finding::kSectionReplaced);
 }
 
 std::uint32_t ResolveRelease(std::int32_t number, const Model& model, const ModelFile& file)
 {
-    return ResolveReference(number, 0, model.releases.Size(), file, Finding::kReleaseReplaced);
+    return ResolveReference(number, 0, model.barTables->releases.Size(), file,
+                            Finding::kReleaseReplaced);
 }
 
 // A section with an outline code is drawn lying: the bar is turned by a quarter. The code of the
@@ -33,7 +35,7 @@ std::uint32_t ResolveRelease(std::int32_t number, const Model& model, const Mode
 void TurnOutlinedSection(const Model& model, Bar& bar)
 {
     if (bar.startSection == 0) return;
-    if (model.sections.all[bar.startSection - 1].outline.code == 0) return;
+    if (model.barTables->sections.all[bar.startSection - 1].outline.code == 0) return;
     bar.angle = static_cast<std::int32_t>((std::int64_t{bar.angle} + 90) % 360);
     bar.remarks.turnedSection = true;
 }

@@ -175,7 +175,7 @@ bool ParseElementLine(Model& model, const ModelFile& file, const Line& line)
 
     switch (kind) {
         case 1: add(model.nodes); break;
-        case 2: add(model.bars); break;
+        case 2: add(model.barTables->bars); break;
         case 3: add(model.surfaces); break;
         case 4: add(model.pointSupports); break;
         case 5: add(model.pointLoads); break;

@@ -55,7 +55,7 @@ class ElementReader {
         std::int32_t labelCount = 0;
         tokens_ >> record.identifier;
         tokens_.Skip<std::uint16_t>() >> pointCount >> labelCount;
-        if (!line_.Holds(pointCount) || !line_.Holds(labelCount)) {
+        if (!line_.Holds(pointCount) || labelCount > kLargestCount) {
             return Drop(Finding::kCountBeyondLine);
         }
         pointCount = std::max(pointCount, 0);
@@ -65,7 +65,7 @@ class ElementReader {
             if (record.line.start == record.line.end) return Drop(Finding::kZeroLengthBar);
         }
         if constexpr (HasLabels<Record>) {
-            record.labels = ReadLabels(tokens_, labelCount, model_.arena);
+            Keep(ReadLabels(tokens_, labelCount, model_.arena), record.labels);
         } else {
             SkipLabels(tokens_, labelCount);
         }
@@ -80,6 +80,12 @@ class ElementReader {
     {
         file_.Report(finding);
         return false;
+    }
+
+    void Keep(Labels labels, Labels& kept) { kept = labels; }
+    void Keep(Labels labels, LabelPlaces& kept)
+    {
+        kept = LabelPlaces(labels, model_.barTables->arena);
     }
 
     void ReadPoint(Point& point) { tokens_ >> point.x >> point.y >> point.z; }

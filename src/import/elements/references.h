@@ -25,8 +25,8 @@ inline std::uint32_t ResolveReference(std::int32_t number, std::size_t earlier, 
 // With the default material any number means that one.
 inline std::uint32_t ResolveMaterial(std::int32_t number, const Model& model, const ModelFile& file)
 {
-    return ResolveReference(model.hasDefaultMaterial ? 1 : number, 0, model.materials.Size(), file,
-                            Finding::kMaterialReplaced);
+    return ResolveReference(model.hasDefaultMaterial ? 1 : number, 0,
+                            model.barTables->materials.Size(), file, Finding::kMaterialReplaced);
 }
 
 }  // namespace tamur

@@ -1,4 +1,4 @@
-// The lines of "#TAB_PARAM_CAS". Each reads what stands behind the case number and the kind.
+// The lines of "#TAB_PARAM_CAS". Each reads what follows the case number and the kind.
 #pragma once
 
 #include <cstdint>
@@ -14,16 +14,16 @@ namespace tamur {
 void ReadCombination(StreamScanner& tokens, std::int32_t caseNumber, Model& model,
                      const ModelFile& file);
 
-// Kind 3. Overwrites the model's one record as far as the line goes. From the second such line
-// on the number of modes ends as 0.
-void ReadModes(StreamScanner& tokens, const Line& line, Model& model, const ModelFile& file);
+// Kind 3. Overwrites the model's one record as far as the line goes. Once a line has made a damping
+// array, the number of modes of every later line ends as 0.
+void ReadModes(StreamScanner& tokens, Model& model, const ModelFile& file);
 
 // Kind 4.
 void ReadSeismicCase(StreamScanner& tokens, std::int32_t caseNumber, Model& model,
                      const ModelFile& file);
 
 // Kind 9.
-void ReadEnvelope(StreamScanner& tokens, std::int32_t caseNumber, const Line& line, Model& model,
+void ReadEnvelope(StreamScanner& tokens, std::int32_t caseNumber, Model& model,
                   const ModelFile& file);
 
 // Flags are one character, a capital O for yes.
@@ -32,14 +32,6 @@ inline bool ReadFlag(StreamScanner& tokens)
     char flag = '\0';
     tokens >> flag;
     return flag == 'O';
-}
-
-// A count of values that the line can hold, or 0.
-inline std::int32_t ListCount(std::int32_t count, const Line& line, const ModelFile& file)
-{
-    if (count >= 0 && line.Holds(count)) return count;
-    file.Report(Finding::kListCountIgnored);
-    return 0;
 }
 
 }  // namespace tamur

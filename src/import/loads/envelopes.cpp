@@ -1,4 +1,5 @@
 #include "import/loads/case_parameters.h"
+#include "import/read_list.h"
 
 namespace tamur {
 namespace {
@@ -10,7 +11,7 @@ void ReadLetters(StreamScanner& tokens, EnvelopeLetters& letters)
 
 }  // namespace
 
-void ReadEnvelope(StreamScanner& tokens, std::int32_t caseNumber, const Line& line, Model& model,
+void ReadEnvelope(StreamScanner& tokens, std::int32_t caseNumber, Model& model,
                   const ModelFile& file)
 {
     Envelope envelope;
@@ -19,12 +20,9 @@ void ReadEnvelope(StreamScanner& tokens, std::int32_t caseNumber, const Line& li
     ReadLetters(tokens, envelope.envelopes);
     ReadLetters(tokens, envelope.values);
     envelope.keepsCase = ReadFlag(tokens);
-    tokens >> envelope.caseCount;
-    envelope.caseCount = ListCount(envelope.caseCount, line, file);
-    const std::size_t count = static_cast<std::size_t>(envelope.caseCount);
-    std::int32_t* const cases = model.arena.Array<std::int32_t>(count);
-    for (std::size_t i = 0; i < count; ++i) tokens >> cases[i];
-    envelope.cases = cases;
+    std::int32_t count = 0;
+    tokens >> count;
+    envelope.cases = ReadList<std::int32_t>(tokens, ListCount(count, file), model.arena);
     if (tokens.Failed()) file.Report(Finding::kUnreadableColumn);
     model.envelopes.Append(envelope);
 }

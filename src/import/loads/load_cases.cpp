@@ -45,9 +45,9 @@ void ReadParameters(Model& model, ModelFile& file)
         tokens >> caseNumber >> kind;
         switch (kind) {
             case case_type::kCombination: ReadCombination(tokens, caseNumber, model, file); break;
-            case case_type::kModal: ReadModes(tokens, line, model, file); break;
+            case case_type::kModal: ReadModes(tokens, model, file); break;
             case case_type::kSeismic: ReadSeismicCase(tokens, caseNumber, model, file); break;
-            case case_type::kEnvelope: ReadEnvelope(tokens, caseNumber, line, model, file); break;
+            case case_type::kEnvelope: ReadEnvelope(tokens, caseNumber, model, file); break;
             default: file.Report(Finding::kParameterKindUnknown); break;
         }
     }

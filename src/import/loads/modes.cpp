@@ -1,4 +1,5 @@
 #include "import/loads/case_parameters.h"
+#include "import/read_list.h"
 
 namespace tamur {
 namespace {
@@ -8,7 +9,7 @@ void ReadFields(StreamScanner& tokens, Modes& modes)
 {
     constexpr std::int32_t kDampingsComputed = 1;
     constexpr std::int32_t kFirstMethod = 41;
-    tokens >> modes.modeCount >> modes.percent >> modes.massChoice;
+    tokens >> modes.dampings.count >> modes.percent >> modes.massChoice;
     for (int i = 0; i < 8; ++i) tokens >> modes.cases[i] >> modes.factors[i];
     std::int32_t dampings = 0;
     tokens >> dampings;
@@ -23,20 +24,18 @@ void ReadFields(StreamScanner& tokens, Modes& modes)
 
 }  // namespace
 
-void ReadModes(StreamScanner& tokens, const Line& line, Model& model, const ModelFile& file)
+void ReadModes(StreamScanner& tokens, Model& model, const ModelFile& file)
 {
-    Modes& modes = model.modes;
+    // The model's record changes when all is read, so that its count never lacks its array.
+    Modes modes = model.modes;
     ReadFields(tokens, modes);
-    modes.modeCount = ListCount(modes.modeCount, line, file);
-    if (modes.modeCount == 0) return;
+    std::int32_t count = ListCount(modes.dampings.count, file);
     // An array that is already there is given up, and the number of modes with it.
-    if (modes.hasDampings) modes.modeCount = 0;
-    modes.hasDampings = true;
-    const std::size_t count = static_cast<std::size_t>(modes.modeCount);
-    double* const dampings = model.arena.Array<double>(count);
-    for (std::size_t i = 0; i < count; ++i) tokens >> dampings[i];
-    modes.dampings = dampings;
-    if (tokens.Failed()) file.Report(Finding::kUnreadableColumn);
+    if (modes.hasDampings) count = 0;
+    modes.dampings = ReadList<double>(tokens, count, model.arena);
+    modes.hasDampings = modes.hasDampings || count > 0;
+    if (count > 0 && tokens.Failed()) file.Report(Finding::kUnreadableColumn);
+    model.modes = modes;
 }
 
 }  // namespace tamur

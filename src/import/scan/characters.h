@@ -22,15 +22,11 @@ constexpr const char* SkipBlanks(const char* at)
     return at;
 }
 
-// Words longer than this are cut; the rest is a word of its own.
-inline constexpr int kLongestWord = 255;
-
 // The end of the word that starts at `at`; `at` itself when there is none.
 constexpr const char* EndOfWord(const char* at)
 {
-    const char* end = at;
-    while (*end != '\0' && !IsBlank(*end) && end - at < kLongestWord) ++end;
-    return end;
+    while (*at != '\0' && !IsBlank(*at)) ++at;
+    return at;
 }
 
 }  // namespace tamur

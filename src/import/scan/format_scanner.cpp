@@ -1,5 +1,6 @@
 #include "import/scan/format_scanner.h"
 
+#include <algorithm>
 #include <limits>
 #include <string>
 
@@ -132,7 +133,7 @@ FormatScanner& FormatScanner::operator>>(std::string_view& word)
 {
     if (at_ == nullptr) return *this;
     const char* const begin = SkipBlanks(at_);
-    const char* const end = EndOfWord(begin);
+    const char* const end = std::min(EndOfWord(begin), begin + kLongestColumn);
     at_ = begin == end ? nullptr : end;
     if (at_ != nullptr) word = std::string_view(begin, static_cast<std::size_t>(end - begin));
     return *this;

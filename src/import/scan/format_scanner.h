@@ -6,6 +6,9 @@
 
 namespace tamur {
 
+// Words longer than this are cut; the rest is the next column.
+inline constexpr int kLongestColumn = 255;
+
 // Reads as the C library's scanning does, one conversion a call: the first that fails stops the
 // scan, its variable and all later ones stay as they were.
 class FormatScanner {

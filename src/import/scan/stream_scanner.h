@@ -49,7 +49,7 @@ class StreamScanner {
         return *this;
     }
 
-    // A word, at most 255 characters of it, as a view of the line.
+    // A word, however long, as a view of the line.
     StreamScanner& operator>>(std::string_view& word)
     {
         const char* const end = NextEnd();
