@@ -36,11 +36,12 @@ class Labels {
     template <class Visit>
     void ForEach(Visit visit) const
     {
-        const char* at = block_ + sizeof(LabelCounts);
-        for (int left = Counts().held; left > 0; --left) {
-            const Text label = TextAt(at);
+        const int held = Counts().held;
+        if (held == 0) return;
+        Text label = TextAt(block_ + sizeof(LabelCounts));
+        for (int i = 0; i < held; ++i) {
             visit(label);
-            at = EndOf(label);
+            label = TextAt(EndOf(label));
         }
     }
 
