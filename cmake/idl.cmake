@@ -33,8 +33,29 @@ add_custom_command(
     COMMENT "Contract: fields of the records"
     VERBATIM)
 
+add_custom_command(
+    OUTPUT ${generated_dir}/tamur/tables.h
+    COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_tables.py ${idl_dir}/TAMURReader.idl
+            ${generated_dir}/tamur/tables.h
+    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/generate_tables.py ${idl_dir}/contract.py
+            ${generated_dir}/tamur/fields.h
+    COMMENT "Contract: tables of the reader"
+    VERBATIM)
+
+add_custom_command(
+    OUTPUT ${generated_dir}/component/accessor_classes.h
+           ${generated_dir}/component/accessor_getters.h
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${generated_dir}/component
+    COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_accessors.py ${idl_dir}/TAMURReader.idl
+            ${generated_dir}/component
+    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/generate_accessors.py ${idl_dir}/contract.py
+    COMMENT "Contract: the component's accessors"
+    VERBATIM)
+
 add_custom_target(contract DEPENDS ${generated_dir}/TAMURReader.h
-                                   ${generated_dir}/tamur/fields.h)
+                                   ${generated_dir}/tamur/fields.h
+                                   ${generated_dir}/tamur/tables.h
+                                   ${generated_dir}/component/accessor_classes.h)
 
 # What hosts include; on other systems than Windows with the stand-ins for its headers.
 add_library(tamur_contract INTERFACE)

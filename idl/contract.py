@@ -55,12 +55,39 @@ class Coclass:
 
 
 @dataclass(frozen=True)
+class Table:
+    name: str        # in the plural: "AppuisPonctuels"
+    plain_name: str  # what an engineer calls it: "point supports"
+    record: str
+    count: str       # the methods of its accessor
+    at_rank: str
+
+
+@dataclass(frozen=True)
+class Accessor:
+    interface: Interface
+    getter: str          # the method of the reader
+    tables: list[Table]
+
+    @property
+    def stem(self) -> str:
+        return self.interface.name.removeprefix("I")
+
+    @property
+    def further_methods(self) -> list[Method]:
+        """Those that serve no table."""
+        named = {name for table in self.tables for name in (table.count, table.at_rank)}
+        return [method for method in self.interface.methods if method.name not in named]
+
+
+@dataclass(frozen=True)
 class Contract:
     library_id: str
     enumerations: list[Enumeration]
     records: list[Record]
     interfaces: list[Interface]
     coclasses: list[Coclass]
+    table_names: dict[tuple[str, str], tuple[str, str]]  # by interface and rank method
 
     def inherited(self, interface: Interface) -> list[Method]:
         """The methods between those of IUnknown and the interface's own, in vtable order."""
@@ -68,6 +95,32 @@ class Contract:
             if base.name == interface.base:
                 return self.inherited(base) + base.methods
         return []
+
+
+    def accessors(self) -> list[Accessor]:
+        """In the order of the reader's methods."""
+        interfaces = {interface.name: interface for interface in self.interfaces}
+        return [Accessor(interfaces[parameter.type], method.name,
+                         self._tables(interfaces[parameter.type]))
+                for method in interfaces["ITAMURStructureReader"].methods
+                for parameter in method.parameters if parameter.stars == 2]
+
+    def _tables(self, interface: Interface) -> list[Table]:
+        """The k-th count of an accessor belongs to its k-th method that fills a record by rank."""
+        records = {record.name for record in self.records}
+        counts = [method.name for method in interface.methods
+                  if method.name.startswith("GetNb") and method.parameters[-1].type == "long"]
+        ranks = [method for method in interface.methods
+                 if method.name.endswith("AtRank") and method.parameters[-1].type in records]
+        if ranks and len(counts) != len(ranks):
+            sys.exit(f"{interface.name}: {len(counts)} counts for {len(ranks)} tables")
+        tables = []
+        for count, rank in zip(counts, ranks):
+            if (interface.name, rank.name) not in self.table_names:
+                sys.exit(f"{interface.name}: no line \"// Table\" before {rank.name}")
+            name, plain_name = self.table_names[interface.name, rank.name]
+            tables.append(Table(name, plain_name, rank.parameters[-1].type, count, rank.name))
+        return tables
 
 
 ENUMERATION = re.compile(r"typedef enum (\w+)\s*\{(.*?)\}", re.S)
@@ -80,6 +133,7 @@ COCLASS = re.compile(r"uuid\((?P<clsid>[\w-]+)\)[^\]]*\]\s*coclass (?P<name>\w+)
 FIELD = re.compile(
     r"(?:\[size_is\((?P<count>.*)\)\]\s*)?(?P<type>\w[\w ]*?)(?P<star>\*?)\s+(?P<name>\w+)"
     r"(?:\[(?P<length>\d+)\])?")
+TABLE = re.compile(r"// Table (\w+): (.+)\n(?:\s*//.*\n)*\s*HRESULT (\w+)\(")
 METHOD = re.compile(r"HRESULT (?P<name>\w+)\((?P<parameters>.*)\)", re.S)
 PARAMETER = re.compile(
     r"\[(?P<direction>in, out|in|out)(?:, retval)?\]\s*(?P<type>\w+)(?P<stars>\**) (?P<name>\w+)")
@@ -113,9 +167,18 @@ def _method(text: str) -> Method:
     return Method(match["name"], parameters)
 
 
+def _table_names(text: str) -> dict[tuple[str, str], tuple[str, str]]:
+    names = {}
+    for part in re.split(r"\binterface (?=\w+ : )", text)[1:]:
+        for name, plain_name, method in TABLE.findall(part):
+            names[part.split()[0], method] = (name, plain_name)
+    return names
+
+
 def read_contract(path: str) -> Contract:
     with open(path, encoding="utf-8") as file:
-        idl = re.sub(r"//.*", "", file.read())
+        text = file.read()
+    idl = re.sub(r"//.*", "", text)
     return Contract(
         LIBRARY.search(idl)[1],
         [Enumeration(name, [(value, int(number))
@@ -126,4 +189,5 @@ def read_contract(path: str) -> Contract:
         [Interface(match["name"], match["iid"], match["base"],
                    [_method(part) for part in _declarations(match["body"])])
          for match in INTERFACE.finditer(idl)],
-        [Coclass(match["name"], match["clsid"]) for match in COCLASS.finditer(idl)])
+        [Coclass(match["name"], match["clsid"]) for match in COCLASS.finditer(idl)],
+        _table_names(text))

@@ -2,6 +2,11 @@
 //
 //     for (const auto& node : tamur::Nodes(*reader)) use(node->identifier);
 //
+//     tamur::Records<TMRNode>(*reader)                        the same, by its record
+//     tamur::ForEachTable(*reader, [](const auto& table) {    every table
+//         std::cout << table.PlainName() << ": " << table.Size() << '\n';
+//     });
+//
 // Every range holds its accessor; the reader must outlive it.
 #pragma once
 
@@ -13,10 +18,22 @@
 
 namespace tamur {
 
-// The records that an accessor serves. `GetCount` and `GetAtRank` are its methods.
-template <class PublicRecord, class Accessor, auto GetCount, auto GetAtRank>
+// What the contract says of the table of a record: Accessor, its interface; kName and kPlainName;
+// kGetAccessor, kGetCount and kGetAtRank, the methods that lead to a record. In <tamur/tables.h>.
+template <class PublicRecord>
+struct TableOf;
+
+// The records that an accessor serves.
+template <class RecordType>
 class Range {
  public:
+    using PublicRecord = RecordType;
+    using Table = TableOf<PublicRecord>;
+    using Accessor = typename Table::Accessor;
+
+    static constexpr auto kGetCount = Table::kGetCount;
+    static constexpr auto kGetAtRank = Table::kGetAtRank;
+
     explicit Range(ComPtr<Accessor> accessor) : accessor_(std::move(accessor)) {}
 
     class Iterator {
@@ -43,10 +60,14 @@ class Range {
         LONG rank_ = 0;
     };
 
+    // "AppuisPonctuels", and what an engineer says: "point supports".
+    [[nodiscard]] static const char* Name() { return Table::kName; }
+    [[nodiscard]] static const char* PlainName() { return Table::kPlainName; }
+
     [[nodiscard]] LONG Size() const
     {
         LONG count = 0;
-        Check((accessor_.Get()->*GetCount)(&count), "counting records");
+        Check((accessor_.Get()->*kGetCount)(&count), "counting records");
         return count;
     }
 
@@ -55,7 +76,7 @@ class Range {
     [[nodiscard]] Record<PublicRecord> At(LONG rank) const
     {
         Record<PublicRecord> record;
-        Check((accessor_.Get()->*GetAtRank)(rank, &record.Get()), "reading a record");
+        Check((accessor_.Get()->*kGetAtRank)(rank, &record.Get()), "reading a record");
         return record;
     }
 
@@ -80,179 +101,26 @@ ComPtr<Accessor> GetAccessor(ITAMURStructureReader& reader, AccessorGetter<Acces
     return accessor;
 }
 
-inline auto Materials(ITAMURStructureReader& reader)
+// The table of a record.
+template <class PublicRecord>
+Range<PublicRecord> Records(ITAMURStructureReader& reader)
 {
-    return Range<TMRMaterial, ITMRMaterialAccessor, &ITMRMaterialAccessor::GetNbMaterials,
-                 &ITMRMaterialAccessor::GetMaterialAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetMaterialAccessor));
-}
-inline auto Sections(ITAMURStructureReader& reader)
-{
-    return Range<TMRSectionGeometry, ITMRSectionAccessor, &ITMRSectionAccessor::GetNbSections,
-                 &ITMRSectionAccessor::GetSectionAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetSectionAccessor));
-}
-inline auto Attaches(ITAMURStructureReader& reader)
-{
-    return Range<TMRAttache, ITMRAttacheAccessor, &ITMRAttacheAccessor::GetNbAttaches,
-                 &ITMRAttacheAccessor::GetAttacheAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetAttacheAccessor));
-}
-inline auto Groupes(ITAMURStructureReader& reader)
-{
-    return Range<TMRGroupe, ITMRGroupeAccessor, &ITMRGroupeAccessor::GetNbGroupes,
-                 &ITMRGroupeAccessor::GetGroupeAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetGroupeAccessor));
-}
-inline auto Filaires(ITAMURStructureReader& reader)
-{
-    return Range<TMRFilaire, ITMRFilaireAccessor, &ITMRFilaireAccessor::GetNbFilaires,
-                 &ITMRFilaireAccessor::GetFilaireAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetFilaireAccessor));
-}
-inline auto Surfaciques(ITAMURStructureReader& reader)
-{
-    return Range<TMRSurfacique, ITMRSurfaciqueAccessor, &ITMRSurfaciqueAccessor::GetNbSurfaciques,
-                 &ITMRSurfaciqueAccessor::GetSurfaciqueAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetSurfaciqueAccessor));
-}
-inline auto Ouvertures(ITAMURStructureReader& reader)
-{
-    return Range<TMROuverture, ITMROuvertureAccessor, &ITMROuvertureAccessor::GetNbOuvertures,
-                 &ITMROuvertureAccessor::GetOuvertureAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetOuvertureAccessor));
-}
-inline auto Parois(ITAMURStructureReader& reader)
-{
-    return Range<TMRParoi, ITMRParoiAccessor, &ITMRParoiAccessor::GetNbParois,
-                 &ITMRParoiAccessor::GetParoiAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetParoiAccessor));
-}
-inline auto AppuisPonctuels(ITAMURStructureReader& reader)
-{
-    return Range<TMRAppuiPonctuel, ITMRAppuiPonctuelAccessor,
-                 &ITMRAppuiPonctuelAccessor::GetNbAppui,
-                 &ITMRAppuiPonctuelAccessor::GetAppuiAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetAppuiPonctuelAccessor));
-}
-inline auto AppuisLineaires(ITAMURStructureReader& reader)
-{
-    return Range<TMRAppuiLineaire, ITMRAppuiLineaireAccessor,
-                 &ITMRAppuiLineaireAccessor::GetNbAppui,
-                 &ITMRAppuiLineaireAccessor::GetAppuiAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetAppuiLineaireAccessor));
-}
-inline auto AppuisSurfaciques(ITAMURStructureReader& reader)
-{
-    return Range<TMRAppuiSurfacique, ITMRAppuiSurfaciqueAccessor,
-                 &ITMRAppuiSurfaciqueAccessor::GetNbAppui,
-                 &ITMRAppuiSurfaciqueAccessor::GetAppuiAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetAppuiSurfaciqueAccessor));
-}
-inline auto Cas(ITAMURStructureReader& reader)
-{
-    return Range<TMRCas, ITMRCasAccessor, &ITMRCasAccessor::GetNbCas,
-                 &ITMRCasAccessor::GetCasAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetCasAccessor));
-}
-inline auto Nodes(ITAMURStructureReader& reader)
-{
-    return Range<TMRNode, ITMRNodeAccessor, &ITMRNodeAccessor::GetNbNodes,
-                 &ITMRNodeAccessor::GetNodeAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetNodeAccessor));
-}
-inline auto Masses(ITAMURStructureReader& reader)
-{
-    return Range<TMRMasse, ITMRMasseAccessor, &ITMRMasseAccessor::GetNbMasses,
-                 &ITMRMasseAccessor::GetMasseAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetMasseAccessor));
-}
-inline auto Cables(ITAMURStructureReader& reader)
-{
-    return Range<TMRCable, ITMRCableAccessor, &ITMRCableAccessor::GetNbCables,
-                 &ITMRCableAccessor::GetCableAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetCableAccessor));
-}
-inline auto Lines(ITAMURStructureReader& reader)
-{
-    return Range<TMRLine, ITMRLineAideAccessor, &ITMRLineAideAccessor::GetNbLines,
-                 &ITMRLineAideAccessor::GetLineAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetLineAideAccessor));
-}
-inline auto LinesInterieur(ITAMURStructureReader& reader)
-{
-    return Range<TMRLineInterieur, ITMRLineInterieurAccessor,
-                 &ITMRLineInterieurAccessor::GetNbLinesInt,
-                 &ITMRLineInterieurAccessor::GetLineIntAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetLineInterieurAccessor));
-}
-inline auto Deplacements(ITAMURStructureReader& reader)
-{
-    return Range<TMRDeplacement, ITMRDeplacementAccessor,
-                 &ITMRDeplacementAccessor::GetNbDeplacements,
-                 &ITMRDeplacementAccessor::GetDeplacementAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetDeplacementAccessor));
-}
-inline auto SurfacicSections(ITAMURStructureReader& reader)
-{
-    return Range<TMRSurfacicSection, ITMRSurfacicSectionAccessor,
-                 &ITMRSurfacicSectionAccessor::GetNbSurfacicSections,
-                 &ITMRSurfacicSectionAccessor::GetSurfacicSectionAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetSurfacicSectionAccessor));
+    return Range<PublicRecord>(GetAccessor<typename TableOf<PublicRecord>::Accessor>(
+        reader, TableOf<PublicRecord>::kGetAccessor));
 }
 
-// The tables of the load accessor.
-inline auto ChargesPonctuelles(ITAMURStructureReader& reader)
+}  // namespace tamur
+
+#include <tamur/tables.h>
+
+namespace tamur {
+
+// Calls visit(range) for every table, in the order of the contract.
+template <class Visit>
+void ForEachTable(ITAMURStructureReader& reader, Visit&& visit)
 {
-    return Range<TMRChargePonctuelle, ITMRChargeAccessor,
-                 &ITMRChargeAccessor::GetNbChargesPonctuelles,
-                 &ITMRChargeAccessor::GetChargePonctuelleAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto ChargesLineaires(ITAMURStructureReader& reader)
-{
-    return Range<TMRChargeLineaire, ITMRChargeAccessor, &ITMRChargeAccessor::GetNbChargesLineaires,
-                 &ITMRChargeAccessor::GetChargeLineaireAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto ChargesSurfaciques(ITAMURStructureReader& reader)
-{
-    return Range<TMRChargeSurfacique, ITMRChargeAccessor,
-                 &ITMRChargeAccessor::GetNbChargesSurfaciques,
-                 &ITMRChargeAccessor::GetChargeSurfaciqueAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto ChargesPoidsPropre(ITAMURStructureReader& reader)
-{
-    return Range<TMRChargePoidsPropre, ITMRChargeAccessor,
-                 &ITMRChargeAccessor::GetNbChargesPoidsPropre,
-                 &ITMRChargeAccessor::GetChargePoidsPropreAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto ChargesThermiques(ITAMURStructureReader& reader)
-{
-    return Range<TMRChargeThermique, ITMRChargeAccessor,
-                 &ITMRChargeAccessor::GetNbChargesThermiques,
-                 &ITMRChargeAccessor::GetChargeThermiqueAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto ChargesSismiques(ITAMURStructureReader& reader)
-{
-    return Range<TMRChargeSismique, ITMRChargeAccessor, &ITMRChargeAccessor::GetNbChargesSismiques,
-                 &ITMRChargeAccessor::GetChargeSismiqueAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto Combinaisons(ITAMURStructureReader& reader)
-{
-    return Range<TMRCombinaison, ITMRChargeAccessor, &ITMRChargeAccessor::GetNbCombinaisons,
-                 &ITMRChargeAccessor::GetCombinaisonAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
-}
-inline auto Enveloppes(ITAMURStructureReader& reader)
-{
-    return Range<TMREnveloppe, ITMRChargeAccessor, &ITMRChargeAccessor::GetNbEnveloppes,
-                 &ITMRChargeAccessor::GetEnveloppeAtRank>(
-        GetAccessor(reader, &ITAMURStructureReader::GetChargeAccessor));
+    ForEachTableType(
+        [&](auto table) { visit(Records<typename decltype(table)::PublicRecord>(reader)); });
 }
 
 }  // namespace tamur

@@ -5,8 +5,9 @@
 
 namespace tamur {
 
-CTMRMessageAccessor::CTMRMessageAccessor(const Table<ImportMessage>& messages)
+CTMRMessageAccessor::CTMRMessageAccessor(const Model& model)
 {
+    const Table<ImportMessage>& messages = model.messages;
     texts_.reserve(messages.Size());
     for (std::size_t i = 0; i < messages.Size(); ++i) {
         const platform::WideString text = FormatPrompt(messages[i].prompt, messages[i].caseNumber);

@@ -12,7 +12,7 @@ namespace tamur {
 class CTMRMessageAccessor : public ITMRMessageAccessor {
  public:
     // Throws std::bad_alloc.
-    explicit CTMRMessageAccessor(const Table<ImportMessage>& messages);
+    explicit CTMRMessageAccessor(const Model& model);
     CTMRMessageAccessor(const CTMRMessageAccessor&) = delete;
     CTMRMessageAccessor& operator=(const CTMRMessageAccessor&) = delete;
 

@@ -4,9 +4,10 @@ namespace tamur {
 
 HRESULT CTMRNodeAccessor::GetNodes(TMRNode* tabNodes) noexcept
 {
-    const LONG count = TheView().Count();
+    LONG count = 0;
+    (void)Count<TMRNode>(&count);
     for (LONG rank = 0; rank < count; ++rank) {
-        if (SUCCEEDED(GetAtRank(rank, tabNodes + rank))) continue;
+        if (SUCCEEDED(AtRank(rank, tabNodes + rank))) continue;
         // All or none: the host cannot know how far it went.
         for (LONG i = 0; i < rank; ++i) {
             CoTaskMemFree(tabNodes[i].ElemLabels.tabLabels);

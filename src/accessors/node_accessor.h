@@ -1,20 +1,14 @@
 // The accessor over the nodes.
 #pragma once
 
-#include "accessors/accessor.h"
+#include "component/accessor_classes.h"
 
 namespace tamur {
 
-class CTMRNodeAccessor
-    : public Accessor<ITMRNodeAccessor, IID_ITMRNodeAccessor, CheckedView<Node>> {
+class CTMRNodeAccessor : public CTMRNodeAccessorTables {
  public:
-    using Accessor::Accessor;
+    using CTMRNodeAccessorTables::CTMRNodeAccessorTables;
 
-    HRESULT STDMETHODCALLTYPE GetNbNodes(LONG* count) noexcept override { return GetCount(count); }
-    HRESULT STDMETHODCALLTYPE GetNodeAtRank(LONG rank, TMRNode* record) noexcept override
-    {
-        return GetAtRank(rank, record);
-    }
     HRESULT STDMETHODCALLTYPE GetNodes(TMRNode* tabNodes) noexcept override;
 };
 

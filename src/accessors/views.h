@@ -91,7 +91,10 @@ class CheckedView : public LiveView<Table<Record>> {
  public:
     static constexpr HRESULT kCopyFailure = E_FAIL;
 
-    using LiveView<Table<Record>>::LiveView;
+    CheckedView(const Model& model, const Table<Record>& table)
+        : LiveView<Table<Record>>(model, table)
+    {
+    }
 
     [[nodiscard]] bool Has(LONG rank) const
     {

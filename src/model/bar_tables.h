@@ -3,7 +3,7 @@
 
 #include "model/arena.h"
 #include "model/elements.h"
-#include "model/leading_tables.h"
+#include "model/properties.h"
 #include "model/table.h"
 
 namespace tamur {

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/leading_tables.h"
+#include "model/properties.h"
 #include "model/table.h"
 
 namespace tamur {

@@ -1,9 +1,9 @@
 #include "server/object_map.h"
 
 #include "TAMURReader.h"
-#include "accessors/element_accessors.h"
 #include "com/class_factory.h"
 #include "com/object.h"
+#include "component/accessor_classes.h"
 #include "reader/structure_reader.h"
 #include "server/registration.h"
 

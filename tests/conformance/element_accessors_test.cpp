@@ -16,8 +16,8 @@ namespace {
 using testing::ElementsAre;
 
 // Ranks outside the table fail and write nothing.
-template <class PublicRecord, class Accessor, auto GetCount, auto GetAtRank>
-void ExpectRanksChecked(const Range<PublicRecord, Accessor, GetCount, GetAtRank>& range)
+template <class PublicRecord>
+void ExpectRanksChecked(const Range<PublicRecord>& range)
 {
     std::array<unsigned char, sizeof(PublicRecord)> untouched;
     untouched.fill(0xA5);
@@ -25,7 +25,7 @@ void ExpectRanksChecked(const Range<PublicRecord, Accessor, GetCount, GetAtRank>
          {LONG{-1}, LONG{INT_MIN}, range.Size(), range.Size() + 1, LONG{INT_MAX}}) {
         PublicRecord record;
         std::memcpy(&record, untouched.data(), sizeof record);
-        EXPECT_EQ((range.TheAccessor().*GetAtRank)(rank, &record), E_FAIL) << rank;
+        EXPECT_EQ((range.TheAccessor().*range.kGetAtRank)(rank, &record), E_FAIL) << rank;
         EXPECT_EQ(std::memcmp(&record, untouched.data(), sizeof record), 0) << rank;
     }
 }

@@ -69,56 +69,28 @@ template <class Table>
 struct TableTraits<const Table> : TableTraits<Table> {
 };
 
-template <class PublicRecordType, class AccessorType, auto getCount, auto getAtRank>
-struct TableTraits<Range<PublicRecordType, AccessorType, getCount, getAtRank>> {
+template <class PublicRecordType>
+struct TableTraits<Range<PublicRecordType>> {
     using PublicRecord = PublicRecordType;
-    using Accessor = AccessorType;
+    using Accessor = typename TableOf<PublicRecord>::Accessor;
 
     static HRESULT AtRank(Accessor& accessor, LONG rank, PublicRecord* record)
     {
-        return (accessor.*getAtRank)(rank, record);
+        return (accessor.*TableOf<PublicRecord>::kGetAtRank)(rank, record);
     }
 
-    // A rank outside these tables ends the process instead of giving E_FAIL.
-    static constexpr bool kEndsTheProcess =
-        std::is_same_v<PublicRecord, TMRSurfacique> || std::is_same_v<PublicRecord, TMROuverture> ||
-        std::is_same_v<PublicRecord, TMRParoi> || std::is_same_v<PublicRecord, TMRNode>;
+    static constexpr bool kEndsTheProcess = kRankEndsTheProcess<PublicRecord>;
 };
 
-// Calls visit(name, table) for the 27 tables of records, with table(reader) giving the range.
+// Calls visit(name, table) for every table, with table(reader) giving the range.
 template <class Visitor>
 void ForEachTable(Visitor&& visit)
 {
-#define TABLE(function) \
-    visit(#function, [](ITAMURStructureReader& reader) { return function(reader); })
-    TABLE(Materials);
-    TABLE(Sections);
-    TABLE(Attaches);
-    TABLE(Groupes);
-    TABLE(Filaires);
-    TABLE(Surfaciques);
-    TABLE(Ouvertures);
-    TABLE(Parois);
-    TABLE(AppuisPonctuels);
-    TABLE(AppuisLineaires);
-    TABLE(AppuisSurfaciques);
-    TABLE(Cas);
-    TABLE(Nodes);
-    TABLE(Masses);
-    TABLE(Cables);
-    TABLE(Lines);
-    TABLE(LinesInterieur);
-    TABLE(Deplacements);
-    TABLE(SurfacicSections);
-    TABLE(ChargesPonctuelles);
-    TABLE(ChargesLineaires);
-    TABLE(ChargesSurfaciques);
-    TABLE(ChargesPoidsPropre);
-    TABLE(ChargesThermiques);
-    TABLE(ChargesSismiques);
-    TABLE(Combinaisons);
-    TABLE(Enveloppes);
-#undef TABLE
+    ForEachTableType([&](auto table) {
+        visit(table.kName, [](ITAMURStructureReader& reader) {
+            return Records<typename decltype(table)::PublicRecord>(reader);
+        });
+    });
 }
 
 }  // namespace tamur::test

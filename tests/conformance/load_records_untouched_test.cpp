@@ -14,16 +14,15 @@ ComPtr<ITAMURStructureReader> ReaderWithBoth()
 }
 
 // Reads rank 0 into a record that already holds values; gives the record back.
-template <class PublicRecord, class Accessor, auto GetCount, auto GetAtRank>
-Record<PublicRecord> ReadOver(const Range<PublicRecord, Accessor, GetCount, GetAtRank>& range,
-                              BSTR elementType)
+template <class PublicRecord>
+Record<PublicRecord> ReadOver(const Range<PublicRecord>& range, BSTR elementType)
 {
     Record<PublicRecord> record;
     PublicRecord& fields = record.Get();
     fields.identifier = fields.NumCas = fields.Repere = fields.ElemGrp = fields.NumGrp = -99;
     fields.GroupNumber = 77;
     fields.ElementType = elementType;
-    EXPECT_EQ((range.TheAccessor().*GetAtRank)(0, &fields), S_OK);
+    EXPECT_EQ((range.TheAccessor().*range.kGetAtRank)(0, &fields), S_OK);
     return record;
 }
 

@@ -10,11 +10,11 @@ namespace tamur::test {
 namespace {
 
 // Ends the process, or comes back with whatever the call gave.
-template <class PublicRecord, class Accessor, auto GetCount, auto GetAtRank>
-void CallAt(const Range<PublicRecord, Accessor, GetCount, GetAtRank>& range, LONG rank)
+template <class PublicRecord>
+void CallAt(const Range<PublicRecord>& range, LONG rank)
 {
     PublicRecord record = {};
-    (range.TheAccessor().*GetAtRank)(rank, &record);
+    (range.TheAccessor().*range.kGetAtRank)(rank, &record);
 }
 
 template <class Elements>

@@ -195,28 +195,11 @@ void ExpectPointerLeft(AccessorGetter<Accessor> get, bool isSetToNull)
 
 TEST(FailingMemory, ThreeMethodsForAccessorsSetThePointerToNullFirst)
 {
-    using Reader = ITAMURStructureReader;
-    ExpectPointerLeft(&Reader::GetMaterialAccessor, true);
-    ExpectPointerLeft(&Reader::GetCasAccessor, true);
-    ExpectPointerLeft(&Reader::GetMessageAccessor, true);
-    ExpectPointerLeft(&Reader::GetSectionAccessor, false);
-    ExpectPointerLeft(&Reader::GetAttacheAccessor, false);
-    ExpectPointerLeft(&Reader::GetGroupeAccessor, false);
-    ExpectPointerLeft(&Reader::GetFilaireAccessor, false);
-    ExpectPointerLeft(&Reader::GetSurfaciqueAccessor, false);
-    ExpectPointerLeft(&Reader::GetOuvertureAccessor, false);
-    ExpectPointerLeft(&Reader::GetParoiAccessor, false);
-    ExpectPointerLeft(&Reader::GetAppuiPonctuelAccessor, false);
-    ExpectPointerLeft(&Reader::GetAppuiLineaireAccessor, false);
-    ExpectPointerLeft(&Reader::GetAppuiSurfaciqueAccessor, false);
-    ExpectPointerLeft(&Reader::GetChargeAccessor, false);
-    ExpectPointerLeft(&Reader::GetNodeAccessor, false);
-    ExpectPointerLeft(&Reader::GetMasseAccessor, false);
-    ExpectPointerLeft(&Reader::GetCableAccessor, false);
-    ExpectPointerLeft(&Reader::GetLineAideAccessor, false);
-    ExpectPointerLeft(&Reader::GetLineInterieurAccessor, false);
-    ExpectPointerLeft(&Reader::GetDeplacementAccessor, false);
-    ExpectPointerLeft(&Reader::GetSurfacicSectionAccessor, false);
+    ForEachAccessor([]<class Accessor>(const char* name, REFIID, AccessorGetter<Accessor> get) {
+        SCOPED_TRACE(name);
+        ExpectPointerLeft(
+            get, IsOneOf<Accessor, ITMRMaterialAccessor, ITMRCasAccessor, ITMRMessageAccessor>);
+    });
 }
 
 // A class object that is there stays, so this begins as if the library had just been loaded.

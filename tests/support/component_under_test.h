@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace tamur::test {
 
@@ -15,6 +16,14 @@ inline ComPtr<ITAMURStructureReader> NewReader()
 {
     return TheComponent().CreateReader();
 }
+
+template <class T, class... Others>
+inline constexpr bool IsOneOf = (std::is_same_v<T, Others> || ...);
+
+// A rank outside the tables of these records ends the process instead of giving E_FAIL.
+template <class PublicRecord>
+inline constexpr bool kRankEndsTheProcess =
+    IsOneOf<PublicRecord, TMRSurfacique, TMROuverture, TMRParoi, TMRNode>;
 
 // Conversions for messages and expectations.
 std::string Utf8(WideStringView text);

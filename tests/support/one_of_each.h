@@ -29,21 +29,10 @@ inline ModelText OneOfEachModel(LONG identifier)
 template <class Use>
 void ForEachCheckedTable(ITAMURStructureReader& reader, Use use)
 {
-    use(Filaires(reader));
-    use(AppuisPonctuels(reader));
-    use(AppuisLineaires(reader));
-    use(AppuisSurfaciques(reader));
-    use(Masses(reader));
-    use(Cables(reader));
-    use(Lines(reader));
-    use(LinesInterieur(reader));
-    use(Deplacements(reader));
-    use(SurfacicSections(reader));
-    use(ChargesPonctuelles(reader));
-    use(ChargesLineaires(reader));
-    use(ChargesSurfaciques(reader));
-    use(ChargesPoidsPropre(reader));
-    use(ChargesThermiques(reader));
+    ForEachElementTable(reader, [&](const auto& table) {
+        using Record = typename std::decay_t<decltype(table)>::PublicRecord;
+        if constexpr (!kRankEndsTheProcess<Record>) use(table);
+    });
 }
 
 }  // namespace tamur::test

@@ -53,37 +53,6 @@ class Digest {
     std::uint64_t value_ = 0xCBF29CE484222325;
 };
 
-void AddTables(Digest& digest, ITAMURStructureReader& reader)
-{
-    digest.AddAll(Materials(reader));
-    digest.AddAll(Sections(reader));
-    digest.AddAll(Attaches(reader));
-    digest.AddAll(Groupes(reader));
-    digest.AddAll(Filaires(reader));
-    digest.AddAll(Surfaciques(reader));
-    digest.AddAll(Ouvertures(reader));
-    digest.AddAll(Parois(reader));
-    digest.AddAll(AppuisPonctuels(reader));
-    digest.AddAll(AppuisLineaires(reader));
-    digest.AddAll(AppuisSurfaciques(reader));
-    digest.AddAll(Cas(reader));
-    digest.AddAll(Nodes(reader));
-    digest.AddAll(Masses(reader));
-    digest.AddAll(Cables(reader));
-    digest.AddAll(Lines(reader));
-    digest.AddAll(LinesInterieur(reader));
-    digest.AddAll(Deplacements(reader));
-    digest.AddAll(SurfacicSections(reader));
-    digest.AddAll(ChargesPonctuelles(reader));
-    digest.AddAll(ChargesLineaires(reader));
-    digest.AddAll(ChargesSurfaciques(reader));
-    digest.AddAll(ChargesPoidsPropre(reader));
-    digest.AddAll(ChargesThermiques(reader));
-    digest.AddAll(ChargesSismiques(reader));
-    digest.AddAll(Combinaisons(reader));
-    digest.AddAll(Enveloppes(reader));
-}
-
 void AddNodesInBulk(Digest& digest, ITAMURStructureReader& reader)
 {
     const auto nodes = Nodes(reader);
@@ -125,7 +94,7 @@ void AddTheRest(Digest& digest, ITAMURStructureReader& reader)
 std::uint64_t ReadEverything(ITAMURStructureReader& reader)
 {
     Digest digest;
-    AddTables(digest, reader);
+    ForEachTable(reader, [&](const auto& table) { digest.AddAll(table); });
     AddNodesInBulk(digest, reader);
     AddTheRest(digest, reader);
     return digest.Value();

@@ -84,8 +84,8 @@ Json ModesOf(ITAMURStructureReader& reader)
 void WriteDump(ITAMURStructureReader& reader, bool isPretty, std::ostream& out)
 {
     JsonDocument document(out, isPretty);
-    const auto writeTable = [&document](TableName name, const auto& table) {
-        document.BeginArray(name.published);
+    const auto writeTable = [&document](const auto& table) {
+        document.BeginArray(table.Name());
         for (auto record : table) document.Element(ToJson(record.Get()));
         document.EndArray();
     };

@@ -88,15 +88,15 @@ void WriteInfo(ITAMURStructureReader& reader, const std::string& file, std::ostr
     WriteSettings(StructureData(reader), out);
 
     BoundingBox box;
-    VisitStructure(reader, [&box](TableName, const auto& table) {
+    VisitStructure(reader, [&box](const auto& table) {
         for (auto record : table) VisitFields(record.Get(), box);
     });
     WriteBox(box, out);
 
     out << '\n';
-    const auto writeCount = [&out](TableName name, const auto& table) {
+    const auto writeCount = [&out](const auto& table) {
         const LONG count = table.Size();
-        if (count != 0) Entry(out, name.plain) << count << '\n';
+        if (count != 0) Entry(out, table.PlainName()) << count << '\n';
     };
     VisitStructure(reader, writeCount);
     VisitLoads(reader, writeCount);

@@ -1,52 +1,35 @@
-// All tables of a model, in the order in which the reader and its load accessor name them.
+// All tables of a model, the structure before the loads.
 #pragma once
 
 #include <tamur/ranges.h>
 
+#include <type_traits>
+
 namespace tamur::tool {
 
-struct TableName {
-    const char* published;  // by the interface
-    const char* plain;      // for an engineer
-};
+template <class PublicRecord>
+inline constexpr bool kIsOfLoads =
+    std::is_same_v<typename TableOf<PublicRecord>::Accessor, ITMRChargeAccessor>;
 
-// Calls visit(name, range) for every table but the loads.
+template <class Range>
+using RecordOf = typename std::decay_t<Range>::PublicRecord;
+
+// Calls visit(range) for every table but the loads.
 template <class Visit>
 void VisitStructure(ITAMURStructureReader& reader, Visit&& visit)
 {
-    visit(TableName{"Materials", "materials"}, Materials(reader));
-    visit(TableName{"Sections", "bar sections"}, Sections(reader));
-    visit(TableName{"Attaches", "releases"}, Attaches(reader));
-    visit(TableName{"Groupes", "groups"}, Groupes(reader));
-    visit(TableName{"Filaires", "bars and beams"}, Filaires(reader));
-    visit(TableName{"Surfaciques", "plates and shells"}, Surfaciques(reader));
-    visit(TableName{"Ouvertures", "openings"}, Ouvertures(reader));
-    visit(TableName{"Parois", "walls under snow and wind"}, Parois(reader));
-    visit(TableName{"AppuisPonctuels", "point supports"}, AppuisPonctuels(reader));
-    visit(TableName{"AppuisLineaires", "line supports"}, AppuisLineaires(reader));
-    visit(TableName{"AppuisSurfaciques", "surface supports"}, AppuisSurfaciques(reader));
-    visit(TableName{"Cas", "load cases"}, Cas(reader));
-    visit(TableName{"Nodes", "nodes"}, Nodes(reader));
-    visit(TableName{"Masses", "masses"}, Masses(reader));
-    visit(TableName{"Cables", "cables"}, Cables(reader));
-    visit(TableName{"Lines", "construction lines"}, Lines(reader));
-    visit(TableName{"LinesInterieur", "inner lines"}, LinesInterieur(reader));
-    visit(TableName{"Deplacements", "imposed displacements"}, Deplacements(reader));
-    visit(TableName{"SurfacicSections", "cuts through surfaces"}, SurfacicSections(reader));
+    ForEachTable(reader, [&](const auto& table) {
+        if constexpr (!kIsOfLoads<RecordOf<decltype(table)>>) visit(table);
+    });
 }
 
 // The same for the tables of the load accessor.
 template <class Visit>
 void VisitLoads(ITAMURStructureReader& reader, Visit&& visit)
 {
-    visit(TableName{"ChargesPonctuelles", "point loads"}, ChargesPonctuelles(reader));
-    visit(TableName{"ChargesLineaires", "line loads"}, ChargesLineaires(reader));
-    visit(TableName{"ChargesSurfaciques", "surface loads"}, ChargesSurfaciques(reader));
-    visit(TableName{"ChargesPoidsPropre", "self-weight loads"}, ChargesPoidsPropre(reader));
-    visit(TableName{"ChargesThermiques", "thermal loads"}, ChargesThermiques(reader));
-    visit(TableName{"ChargesSismiques", "seismic cases"}, ChargesSismiques(reader));
-    visit(TableName{"Combinaisons", "combinations"}, Combinaisons(reader));
-    visit(TableName{"Enveloppes", "envelopes"}, Enveloppes(reader));
+    ForEachTable(reader, [&](const auto& table) {
+        if constexpr (kIsOfLoads<RecordOf<decltype(table)>>) visit(table);
+    });
 }
 
 // What is served but is no table of records.

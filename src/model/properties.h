@@ -1,4 +1,4 @@
-// Records of the sections that stand before the elements.
+// The settings, and the records that elements refer to.
 #pragma once
 
 #include <cstdint>
