@@ -1,4 +1,4 @@
-// Two model files, one behind the other, into one reader. 0x1D parts them.
+// Two model files, one after the other, into one reader. 0x1D parts them.
 #include "import_bytes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -34,7 +34,7 @@ class SeedFolder {
     int count_ = 0;
 };
 
-// The lines behind the first such header, up to the next one.
+// The lines after the first such header, up to the next one.
 std::string_view LinesBehind(std::string_view text, std::string_view header)
 {
     const std::size_t found = text.find(header);

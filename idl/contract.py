@@ -10,7 +10,7 @@ class Field:
     type: str              # as in the contract: "unsigned char", "BSTR", a record, ...
     is_pointer: bool
     name: str
-    count: Optional[str]   # number of the values behind a pointer, in the record's other fields
+    count: Optional[str]   # number of the values that a pointer leads to, in the record's other fields
     length: Optional[int]  # of an array inside the record
 
 

@@ -5,7 +5,7 @@ usage: fix_type_library_time.py FILE
 import re
 import sys
 
-# The time is there twice, one behind the other: as text, and as a number of seconds (type 19).
+# The time is there twice, one after the other: as text, and as a number of seconds (type 19).
 TIMES = re.compile(rb"(Created by WIDL version [0-9.]+ at )[^\n\0]{24}(\nW*\x13\0).{4}", re.S)
 
 

@@ -133,7 +133,7 @@ class Component:
 
     @contextlib.contextmanager
     def string(self, text: str):
-        """A string for a call, freed behind it."""
+        """A string for a call, freed after it."""
         encoded = text.encode("utf-16-le", "surrogatepass")
         string = BSTR(self._allocate_string(encoded, len(encoded) // 2))
         try:

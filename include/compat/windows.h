@@ -160,7 +160,7 @@ interface IClassFactory {
 
 // The functions that libTAMURReader.so exports.
 
-// Strings: UTF-16 with a 32-bit byte length before the first character and a NUL behind the
+// Strings: UTF-16 with a 32-bit byte length before the first character and a NUL after the
 // last. Null text gives null (SysAllocString) or undefined content (the others); null is
 // returned when memory is exhausted or the length is not representable.
 TAMUR_EXPORTED BSTR SysAllocString(const OLECHAR* text);

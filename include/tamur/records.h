@@ -3,6 +3,7 @@
 
 #include <TAMURReader.h>
 #include <tamur/fields.h>
+#include <tamur/utf8.h>
 
 #include <string>
 #include <string_view>
@@ -10,8 +11,6 @@
 #include <utility>
 
 namespace tamur {
-
-using WideStringView = std::basic_string_view<OLECHAR>;
 
 // The text of a string field; empty for null.
 inline WideStringView ViewOf(BSTR text)

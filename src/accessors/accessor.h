@@ -59,7 +59,7 @@ class Accessor : public Interface,
     HRESULT AtRank(LONG rank, PublicRecord* record) const
     {
         const auto& view = ViewOf<PublicRecord>();
-        return view.Has(rank) ? DeliverFrom(view, rank, record) : E_FAIL;
+        return view.CheckRank(rank) ? DeliverFrom(view, rank, record) : E_FAIL;
     }
 
  private:

@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "accessors/records.h"
-#include "model/type_names.h"
+#include "accessors/type_names.h"
 
 namespace tamur {
 namespace {
@@ -42,9 +42,9 @@ BSTR RemarkText(BarRemarks remarks, HostCopy& host)
 }
 
 // Some element types are texts of which only the length means anything.
-WideView Blanks(std::size_t length)
+WideStringView Blanks(std::size_t length)
 {
-    static constexpr WideView kBlanks = OLESTR("                     ");
+    static constexpr WideStringView kBlanks = OLESTR("                     ");
     return kBlanks.substr(0, length);
 }
 

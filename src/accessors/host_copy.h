@@ -25,7 +25,7 @@ class HostCopy {
         return Checked(
             SysAllocStringByteLen(reinterpret_cast<const char*>(text.Data()), text.ByteLength()));
     }
-    [[nodiscard]] BSTR String(WideView text)
+    [[nodiscard]] BSTR String(WideStringView text)
     {
         return Checked(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
     }

@@ -1,7 +1,7 @@
 #include "accessors/message_accessor.h"
 
 #include "accessors/accessor_interface.h"
-#include "model/prompts.h"
+#include "prompts/prompts.h"
 
 namespace tamur {
 
@@ -10,7 +10,7 @@ CTMRMessageAccessor::CTMRMessageAccessor(const Model& model)
     const Table<ImportMessage>& messages = model.messages;
     texts_.reserve(messages.Size());
     for (std::size_t i = 0; i < messages.Size(); ++i) {
-        const platform::WideString text = FormatPrompt(messages[i].prompt, messages[i].caseNumber);
+        const WideString text = FormatPrompt(messages[i].prompt, messages[i].caseNumber);
         texts_.emplace_back(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
         if (texts_.back() == nullptr) platform::ThrowBadAlloc();
     }

@@ -1,7 +1,18 @@
 #include "accessors/records.h"
-#include "model/type_names.h"
+#include "accessors/type_names.h"
 
 namespace tamur {
+
+void Copy(const Settings& from, HostCopy&, TMRStructureData& to)
+{
+    switch (from.workSpace) {
+        case WorkSpace::kPlane: to.espaceDeTravail = TMRWS_PLAN; break;
+        case WorkSpace::kGrid: to.espaceDeTravail = TMRWS_GRILLE; break;
+        case WorkSpace::kSpace: to.espaceDeTravail = TMRWS_SPATIAL; break;
+    }
+    to.tol3D = from.tolerance;
+    to.rigideEnFlexion = from.isRigid ? TMRStructureRigide : TMRStructureNonRigide;
+}
 
 void Copy(const Material& from, HostCopy& host, TMRMaterial& to)
 {

@@ -14,6 +14,7 @@
 
 namespace tamur {
 
+void Copy(const Settings& from, HostCopy&, TMRStructureData& to);
 void Copy(const Material& from, HostCopy& host, TMRMaterial& to);
 void Copy(const Section& from, HostCopy& host, TMRSectionGeometry& to);
 void Copy(const Release& from, HostCopy& host, TMRAttache& to);

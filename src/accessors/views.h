@@ -10,9 +10,10 @@ namespace tamur {
 
 // Every view has:
 //   Count()             the number of records that the accessor reports
-//   Has(rank)           whether there is such a record; for some views an outside rank ends the
-//                       process instead
-//   At(rank)            the record, for a rank that Has
+//   CheckRank(rank)     whether there is such a record; for some views a rank outside the table
+//   ends
+//                       the process instead
+//   At(rank)            the record, for a rank that passed the check
 //   Referred()          the tables that it refers to, where it does
 //   kCopyFailure        the result when memory for a copy runs out
 
@@ -49,7 +50,7 @@ class ArrayView {
     }
 
     [[nodiscard]] LONG Count() const { return count_; }
-    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
+    [[nodiscard]] bool CheckRank(LONG rank) const { return rank >= 0 && rank < count_; }
     [[nodiscard]] const Record& At(LONG rank) const
     {
         return table_[first_ + static_cast<std::size_t>(rank)];
@@ -72,7 +73,7 @@ class LiveView {
     LiveView(const Model& model, const Records& records) : model_(model), records_(records) {}
 
     [[nodiscard]] LONG Count() const { return static_cast<LONG>(records_.Size()); }
-    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
+    [[nodiscard]] bool CheckRank(LONG rank) const { return rank >= 0 && rank < Count(); }
     [[nodiscard]] const auto& At(LONG rank) const
     {
         PrefetchLabels(records_, static_cast<std::size_t>(rank));
@@ -96,9 +97,10 @@ class CheckedView : public LiveView<Table<Record>> {
     {
     }
 
-    [[nodiscard]] bool Has(LONG rank) const
+    [[nodiscard]] bool CheckRank(LONG rank) const
     {
-        if (!LiveView<Table<Record>>::Has(rank)) platform::FailContract("rank outside the table");
+        if (!LiveView<Table<Record>>::CheckRank(rank))
+            platform::FailContract("rank outside the table");
         return true;
     }
 };
@@ -130,7 +132,7 @@ class SharedBars {
     }
 
     [[nodiscard]] LONG Count() const { return count_; }
-    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < count_; }
+    [[nodiscard]] bool CheckRank(LONG rank) const { return rank >= 0 && rank < count_; }
     [[nodiscard]] const Bar& At(LONG rank) const
     {
         return tables_->bars[static_cast<std::size_t>(rank)];
@@ -150,7 +152,7 @@ class CasesCopy {
     explicit CasesCopy(const CaseTable& table);
 
     [[nodiscard]] LONG Count() const { return static_cast<LONG>(cases_.size()); }
-    [[nodiscard]] bool Has(LONG rank) const { return rank >= 0 && rank < Count(); }
+    [[nodiscard]] bool CheckRank(LONG rank) const { return rank >= 0 && rank < Count(); }
     [[nodiscard]] const LoadCase& At(LONG rank) const
     {
         return cases_[static_cast<std::size_t>(rank)];

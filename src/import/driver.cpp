@@ -1,23 +1,23 @@
 #include "import/driver.h"
 
 #include "import/elements/element_line.h"
-#include "import/global_settings.h"
-#include "import/groups.h"
+#include "import/tables/global_settings.h"
+#include "import/tables/groups.h"
 #include "import/loads/load_cases.h"
-#include "import/materials.h"
-#include "import/model_file.h"
-#include "import/releases.h"
-#include "import/section_geometries.h"
-#include "import/version.h"
-#include "model/prompts.h"
+#include "import/tables/materials.h"
+#include "import/file/model_file.h"
+#include "import/tables/releases.h"
+#include "import/tables/section_geometries.h"
+#include "import/tables/version.h"
+#include "prompts/prompts.h"
 
 namespace tamur {
 namespace {
 
 void ShowCannotOpen(const std::string& path)
 {
-    const platform::WideString text = FormatPrompt(prompt::kCannotOpen, platform::WidenPath(path));
-    platform::WideString caption;
+    const WideString text = FormatPrompt(prompt::kCannotOpen, platform::WidenPath(path));
+    WideString caption;
     KdPrompts::GetPrompt(caption, prompt::kCaption, kPromptSection, 0);
     platform::ShowMessageBox(text.c_str(), caption.c_str());
 }

@@ -3,16 +3,17 @@
 
 #include <cstdint>
 
-#include "TAMURReader.h"
 #include "model/list.h"
 #include "model/text.h"
 
 namespace tamur {
 
+enum class WorkSpace { kPlane, kGrid, kSpace };
+
 struct Settings {
     double tolerance = 0;
-    TMRWorkSpace workSpace = TMRWS_SPATIAL;
-    TMRRigideEnFlexion rigidity = TMRStructureRigide;
+    WorkSpace workSpace = WorkSpace::kSpace;
+    bool isRigid = true;  // in bending
 };
 
 struct Material {

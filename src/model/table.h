@@ -27,7 +27,7 @@ class Table {
         return chunks_[rank >> kShift][rank & kMask];
     }
 
-    // The slot behind the last record, value-initialised. It becomes a record with Commit;
+    // The slot after the last record, value-initialised. It becomes a record with Commit;
     // until then it is not part of the table.
     [[nodiscard]] T& Prepare()
     {

@@ -11,8 +11,6 @@
 
 namespace tamur {
 
-using WideView = std::basic_string_view<OLECHAR>;
-
 // A string laid out as a BSTR (32-bit byte length, text, NUL), so that it can be lent to hosts
 // as it is. It lives in an arena or is a constant; null means absent.
 class Text {

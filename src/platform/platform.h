@@ -1,8 +1,9 @@
-// What the component takes from the operating system, and nothing else does: everything behind
+// What the component takes from the operating system, and nothing else does: everything in
 // this header has one implementation in windows/ and one in linux/ with the same behaviour.
 #pragma once
 
 #include <oaidl.h>
+#include <tamur/utf8.h>
 #include <windows.h>
 
 #include <cstddef>
@@ -11,8 +12,6 @@
 #include <string>
 
 namespace tamur::platform {
-
-using WideString = std::basic_string<OLECHAR>;
 
 // Converts text in the ANSI code page of the calling thread (Windows-1252 where there is none).
 // `wide` has room for `length` characters; returns how many were written.

@@ -25,9 +25,7 @@ HRESULT CTAMURStructureReader::Import(BSTR FileName) noexcept
 
 HRESULT CTAMURStructureReader::GetStructureGlobalData(TMRStructureData* data) noexcept
 {
-    const Settings& settings = model_.settings;
-    *data = {settings.tolerance, settings.workSpace, settings.rigidity};
-    return S_OK;
+    return Deliver(E_OUTOFMEMORY, data, model_.settings);
 }
 
 }  // namespace tamur

@@ -44,7 +44,7 @@ TEST(BarAngles, AreTurnedOnSectionsWithoutAnOutline)
     EXPECT_EQ(BarOf(reader)->Angle, 30.0);
 }
 
-// The first import leaves section storage behind, so that the second makes no default section.
+// The first import leaves section storage, so that the second makes no default section.
 TEST(BarAngles, StayWithoutAnySection)
 {
     const auto reader = ImportedBars({});

@@ -16,7 +16,7 @@ inline ComPtr<IClassFactory> ClassObject(REFCLSID classId)
     return factory;
 }
 
-// A surface accessor with no reader behind it.
+// A surface accessor without a reader.
 inline ComPtr<ITMRSurfaciqueAccessor> NewSurfaceAccessor()
 {
     ComPtr<ITMRSurfaciqueAccessor> accessor;

@@ -1,4 +1,4 @@
-// What Import accepts and refuses, and what a refusal leaves behind.
+// What Import accepts and refuses, and what a refusal leaves.
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -174,7 +174,7 @@ TEST(Import, ElementLineWithoutANumberIsIgnored)
     EXPECT_EQ(Nodes(*Imported(ModelText().Elements({"noeud", kNode, " ", ". 7"}))).Size(), 1);
 }
 
-// ------------------------------------------------------------------ what is left behind
+// ------------------------------------------------------------------ what is left over
 
 TEST(Import, RefusedOneLeavesTheTablesAsTheyWere)
 {

@@ -197,7 +197,7 @@ TEST(Headers, LastLineWithoutLineFeedIsFound)
     const auto reader = Imported("#Version\n12.1\n#Tolerance\n0.5\n#Rigide\n1\n#Espace");
     TMRStructureData data = {};
     ASSERT_EQ(reader->GetStructureGlobalData(&data), S_OK);
-    EXPECT_EQ(data.espaceDeTravail, TMRWS_PLAN) << "no value behind it counts as 0";
+    EXPECT_EQ(data.espaceDeTravail, TMRWS_PLAN) << "no value after it counts as 0";
 }
 
 TEST(Headers, EveryTableCopesWithItsHeaderAsTheLastLine)

@@ -1,4 +1,4 @@
-// Lines are cut behind 49999 characters; what is left over is a line of its own in every respect.
+// Lines are cut after 49999 characters; what is left over is a line of its own in every respect.
 #include <gtest/gtest.h>
 
 #include "support/model_text.h"
@@ -47,7 +47,7 @@ TEST(LongLines, NumberAcrossTheCutFallsInTwo)
     EXPECT_EQ(Materials(*reader).At(1)->E, 5.0);
 }
 
-// The line end does not count: behind a full line it is an empty line, which nobody notices.
+// The line end does not count: after a full line it is an empty line, which nobody notices.
 TEST(LongLines, LimitLiesBetween49999And50000Characters)
 {
     for (const std::string end : {"\n", "\r\n", ""}) {

@@ -13,10 +13,10 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // The same column as the modulus of a material, which is scanned, and as the first constant of a
-// section, which is streamed. A second column behind it, 7, shows whether the line is read on.
+// section, which is streamed. A second column after it, 7, shows whether the line is read on.
 struct RealColumn {
     double value;
-    double behind;
+    double after;
 };
 
 RealColumn Scanned(const std::string& column)
@@ -36,7 +36,7 @@ RealColumn Streamed(const std::string& column)
 void ExpectColumn(const RealColumn& column, const RealColumn& expected)
 {
     EXPECT_EQ(column.value, expected.value);
-    EXPECT_EQ(column.behind, expected.behind);
+    EXPECT_EQ(column.after, expected.after);
 }
 
 TEST(RealColumns, ReadTheSameBothWaysWhenWellFormed)
@@ -98,7 +98,7 @@ TEST(RealColumns, HexadecimalAndNamedNumbersAreOnlyScanned)
     ExpectColumn(Scanned("inf"), {kInfinity, 7});
     ExpectColumn(Streamed("inf"), {0, 0});
     EXPECT_TRUE(std::isnan(Scanned("nan").value));
-    EXPECT_EQ(Scanned("nan").behind, 7);
+    EXPECT_EQ(Scanned("nan").after, 7);
     ExpectColumn(Streamed("nan"), {0, 0});
 }
 
@@ -126,7 +126,7 @@ TEST(IntegerColumns, BeyondTheRangeAreClampedWhenScanned)
     }
 }
 
-// The outline of a section line with those tokens behind the constants.
+// The outline of a section line with those tokens after the constants.
 Record<TMRSectionGeometry> Outline(const std::string& tokens)
 {
     const auto reader =

@@ -1,4 +1,4 @@
-// Loads on groups that one import left behind count when the next import compares loads.
+// Loads on groups that one import left count when the next import compares loads.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

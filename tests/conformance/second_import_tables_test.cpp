@@ -56,7 +56,7 @@ TEST(SecondImport, SectionsStartAgain)
 }
 
 // The default section is for a table that has no array. An earlier import leaves its array
-// behind even when it counts no record any more.
+// after even when it counts no record any more.
 TEST(SecondImport, WithoutSectionsGetsNoDefaultOnceTheTableWasUsed)
 {
     ExpectSections({{{{"A 1", "B 1"}}, {"A", "B"}}, {kNoSection, {}}, {kNoSection, {}}});

@@ -122,7 +122,7 @@ struct Outline {
     double radius;
 };
 
-// The outline of a section whose line ends with those tokens, behind the name and constants.
+// The outline of a section whose line ends with those tokens, after the name and constants.
 void ExpectOutline(const std::string& tokens, const Outline& expected)
 {
     SCOPED_TRACE(tokens);

@@ -61,7 +61,7 @@ std::vector<double> HeadOf(const Record<TMRChargeSismique>& seismic)
             static_cast<double>(seismic->iSignChoice), static_cast<double>(seismic->iMode)};
 }
 
-// What stands after it, in the order of the line.
+// What follows it, in the order of the line.
 std::vector<double> TailOf(const Record<TMRChargeSismique>& seismic)
 {
     return {static_cast<double>(seismic->iWorkClass),

@@ -1,4 +1,4 @@
-// Element lines that end behind the head: every column counts as 0, which has a meaning of its own
+// Element lines that end after the head: every column counts as 0, which has a meaning of its own
 // where a column is a code.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

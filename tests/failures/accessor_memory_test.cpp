@@ -1,5 +1,5 @@
 // Memory that runs out while a host asks for objects and records: the documented result, an empty
-// record, nothing left behind, and a reader that serves the same as before.
+// record, nothing left over, and a reader that serves the same as before.
 #include <gtest/gtest.h>
 
 #include <cstring>

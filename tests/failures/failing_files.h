@@ -23,7 +23,7 @@ class FailingFiles {
     // Makes the call of that kind with that number fail, counted from 1.
     void FailAt(FileCall call, std::uint64_t number, Failing how);
 
-    // Makes every read at that offset or behind it fail.
+    // Makes every read at that offset or after it fail.
     void FailReadsFrom(std::uint64_t offset);
 
     // Has something happen to the file before the read with that number, counted from 1.

@@ -1,4 +1,4 @@
-// Memory that runs out while a model is imported: the import says so, nothing is left behind, and
+// Memory that runs out while a model is imported: the import says so, nothing is left over, and
 // the next reader works.
 #include <gtest/gtest.h>
 

@@ -26,11 +26,17 @@ inline constexpr bool kRankEndsTheProcess =
     IsOneOf<PublicRecord, TMRSurfacique, TMROuverture, TMRParoi, TMRNode>;
 
 // Conversions for messages and expectations.
-std::string Utf8(WideStringView text);
+inline std::string Utf8(WideStringView text)
+{
+    return ToUtf8(text);
+}
 inline std::string Utf8(BSTR text)
 {
-    return Utf8(ViewOf(text));
+    return ToUtf8(ViewOf(text));
 }
-std::basic_string<OLECHAR> Wide(std::string_view utf8);
+inline WideString Wide(std::string_view utf8)
+{
+    return FromUtf8(utf8);
+}
 
 }  // namespace tamur::test

@@ -30,7 +30,7 @@ class ElementLine {
         labels_.assign(labels.begin(), labels.end());
         return *this;
     }
-    // Everything behind the head, as it stands.
+    // Everything after the head, as it stands.
     ElementLine& Columns(std::string_view columns)
     {
         columns_ = columns;

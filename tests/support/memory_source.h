@@ -11,7 +11,7 @@
 
 namespace tamur::test {
 
-// Bytes in memory, given out in pieces of at most `piece` bytes; reading at or behind `failsAt`
+// Bytes in memory, given out in pieces of at most `piece` bytes; reading at or after `failsAt`
 // fails.
 class MemorySource final : public platform::BlockSource {
  public:

@@ -65,8 +65,8 @@ TEST(ArenaRoom, HoldsTextsOfEveryLength)
         }
         for (std::size_t i = 0; i < 20; ++i) {
             const auto expected = static_cast<OLECHAR>('a' + i);
-            const WideView text(texts[i].Data(), texts[i].ByteLength() / sizeof(OLECHAR));
-            EXPECT_EQ(text, platform::WideString(start + i, expected));
+            const WideStringView text(texts[i].Data(), texts[i].ByteLength() / sizeof(OLECHAR));
+            EXPECT_EQ(text, WideString(start + i, expected));
         }
     }
 }

@@ -2,8 +2,8 @@
 // see neither.
 #include <gtest/gtest.h>
 
-#include "import/materials.h"
-#include "import/section_geometries.h"
+#include "import/tables/materials.h"
+#include "import/tables/section_geometries.h"
 #include "support/memory_source.h"
 
 namespace tamur {

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "import/elements/element_line.h"
-#include "import/groups.h"
+#include "import/tables/groups.h"
 #include "import/loads/load_cases.h"
-#include "import/materials.h"
-#include "import/releases.h"
-#include "import/section_geometries.h"
+#include "import/tables/materials.h"
+#include "import/tables/releases.h"
+#include "import/tables/section_geometries.h"
 #include "support/memory_source.h"
 
 namespace tamur {

@@ -1,5 +1,5 @@
 // What is read besides the settings that hosts see: the version text and the service pack.
-#include "import/global_settings.h"
+#include "import/tables/global_settings.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Hosts do not see which sections were written as H shapes; the model knows it.
 #include <gtest/gtest.h>
 
-#include "import/section_geometries.h"
+#include "import/tables/section_geometries.h"
 #include "support/memory_source.h"
 
 namespace tamur {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "support/memory_source.h"
 
 namespace tamur {
@@ -59,7 +59,7 @@ TEST(LineExtent, OfLinesThatAreCutAndOfWhatIsLeftOfThem)
     ExpectNext(file, std::string(kLongest, 'x'));
     ExpectNext(file, std::string(kLongest, 'x'));
     ExpectNext(file, "xxx");
-    ExpectNext(file, "behind");
+    ExpectNext(file, "after");
     ExpectNext(file, std::string(kLongest, 'y'));
     ExpectNext(file, "yyyyy");
 }

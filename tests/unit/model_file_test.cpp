@@ -1,4 +1,4 @@
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ std::vector<std::string> LinesBehind(ModelFile& file)
     return lines;
 }
 
-// Every header is found where the plain reading finds it, with the same lines behind it.
+// Every header is found where the plain reading finds it, with the same lines after it.
 void ExpectPlainReading(const std::string& bytes, std::size_t piece)
 {
     test::MemorySource source(bytes, piece);
@@ -59,8 +59,8 @@ void ExpectPlainReading(const std::string& bytes, std::size_t piece)
         const auto header = static_cast<SectionHeader>(i);
         const auto found = std::find(lines.begin(), lines.end(), TextOf(header));
         ASSERT_EQ(file.FindSectionHeader(header), found != lines.end()) << TextOf(header);
-        const auto behind = found == lines.end() ? found : found + 1;
-        ASSERT_EQ(LinesBehind(file), std::vector<std::string>(behind, lines.end()));
+        const auto after = found == lines.end() ? found : found + 1;
+        ASSERT_EQ(LinesBehind(file), std::vector<std::string>(after, lines.end()));
     }
 }
 

@@ -16,11 +16,11 @@ struct Written {
     double value;
 };
 
-// What stands behind the number plays no part, however much like an exponent it looks.
+// What comes after the number plays no part, however much like an exponent it looks.
 void ExpectDecimal(const Written& number)
 {
-    for (const char* const behind : {"", " 900", " -900", "e900", "e-900"}) {
-        const std::string text = number.text + behind;
+    for (const char* const after : {"", " 900", " -900", "e900", "e-900"}) {
+        const std::string text = number.text + after;
         double value = -1;
         EXPECT_EQ(DecimalToReal(text.data(), text.data() + number.text.size(), value), number.range)
             << text;
@@ -30,7 +30,7 @@ void ExpectDecimal(const Written& number)
 
 const std::string kZeros(500, '0');
 
-// Digits behind the point, and zeros before the first other digit, do not make a number smaller.
+// Digits after the point, and zeros before the first other digit, do not make a number smaller.
 TEST(DecimalRange, OverflowIsToldWhateverStandsBehindThePoint)
 {
     ExpectDecimal({"1." + kZeros + "e400", Range::kOverflow, kInfinity});

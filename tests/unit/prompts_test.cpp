@@ -1,4 +1,4 @@
-#include "model/prompts.h"
+#include "prompts/prompts.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ constexpr Expected kExpected[] = {
 TEST(Prompts, EveryTextIsFoundByItsNumber)
 {
     for (const Expected& expected : kExpected) {
-        platform::WideString text;
+        WideString text;
         EXPECT_EQ(KdPrompts::GetPrompt(text, expected.number, OLESTR("TAMURREADER"), 0), 1);
         EXPECT_TRUE(text == expected.text) << expected.number;
     }
@@ -31,7 +31,7 @@ TEST(Prompts, EveryTextIsFoundByItsNumber)
 TEST(Prompts, OtherNumbersHaveNoText)
 {
     for (const unsigned number : {0u, 13500u, 13507u}) {
-        platform::WideString text = OLESTR("before");
+        WideString text = OLESTR("before");
         EXPECT_EQ(KdPrompts::GetPrompt(text, number, OLESTR("TAMURREADER"), 0), 0);
         EXPECT_TRUE(text.empty());
     }
@@ -39,7 +39,7 @@ TEST(Prompts, OtherNumbersHaveNoText)
 
 TEST(Prompts, OtherSectionsHaveNoTexts)
 {
-    platform::WideString text = OLESTR("before");
+    WideString text = OLESTR("before");
     EXPECT_EQ(KdPrompts::GetPrompt(text, 13501, OLESTR("TAMURREADERS"), 0), 0);
     EXPECT_TRUE(text.empty());
 }

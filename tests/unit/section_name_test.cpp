@@ -20,7 +20,7 @@
 // part, width of the upper part, thickness of the upper part. Any other T becomes: thickness of
 // the narrower part (the web), total height, then for the left and for the right of the web how
 // far the flange stands out, how thick it is there, and at which height it starts.
-#include "import/section_name.h"
+#include "import/tables/section_name.h"
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,7 @@
 namespace tamur {
 namespace {
 
-// A text as lines come from the file: padded behind its end.
+// A text as lines come from the file: padded after its end.
 class Padded {
  public:
     explicit Padded(const std::string& text)

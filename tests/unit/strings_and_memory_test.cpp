@@ -12,7 +12,7 @@ namespace {
 
 using WideStringView = std::basic_string_view<OLECHAR>;
 
-// Takes the string: its characters, the NUL behind them, and that it can be freed.
+// Takes the string: its characters, the NUL after them, and that it can be freed.
 void ExpectString(BSTR text, WideStringView expected)
 {
     ASSERT_NE(text, nullptr);

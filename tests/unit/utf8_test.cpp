@@ -1,14 +1,11 @@
-// Paths between UTF-16 and UTF-8, where the platform does not convert them itself.
-#ifndef _WIN32
-
-#include "platform/linux/utf8.h"
-
+// UTF-16 and UTF-8.
 #include <gtest/gtest.h>
+#include <tamur/utf8.h>
 
 #include <string>
 #include <vector>
 
-namespace tamur::platform {
+namespace tamur {
 namespace {
 
 struct Spelling {
@@ -54,8 +51,8 @@ TEST(Utf8, EveryLengthOfCharacterGoesBothWays)
 TEST(Utf8, HalvesOfPairsBecomeQuestionMarks)
 {
     for (const WideString& half : std::vector<WideString>{{0xD800}, {0xDBFF}, {0xDC00}, {0xDFFF}}) {
-        EXPECT_EQ(ToUtf8((u"a" + half).c_str()), "a?");
-        EXPECT_EQ(ToUtf8((half + u"b").c_str()), "?b");
+        EXPECT_EQ(ToUtf8((OLESTR("a") + half).c_str()), "a?");
+        EXPECT_EQ(ToUtf8((half + OLESTR("b")).c_str()), "?b");
     }
     EXPECT_EQ(ToUtf8(WideString({0xDC00, 0xD800}).c_str()), "??");
     EXPECT_EQ(ToUtf8(WideString({0xD800, 0xE000}).c_str()), "?\xEE\x80\x80");
@@ -66,29 +63,31 @@ TEST(Utf8, HalvesOfPairsBecomeQuestionMarks)
 TEST(Utf8, BytesThatAreNoCharacterBecomeQuestionMarks)
 {
     const std::vector<std::pair<std::string, WideString>> broken = {
-        {"\x80", u"?"},  // nothing to continue
+        {"\x80", OLESTR("?")},  // nothing to continue
+        {"\xBF\xBF", OLESTR("??")},
+        {"\xC0\xAF", OLESTR("??")},
         {"\xBF"
          "a",
-         u"?a"},
-        {"\xC3", u"?"},  // ends too early
+         OLESTR("?a")},
+        {"\xC3", OLESTR("?")},  // ends too early
         {"\xC3"
          "a",
-         u"?a"},
-        {"\xE2\x82", u"??"},
+         OLESTR("?a")},
+        {"\xE2\x82", OLESTR("??")},
         {"\xE2\x82"
          "a",
-         u"??a"},
-        {"\xF0\x9F\x98", u"???"},
-        {"\xC3\xC3\xA9", u"?\u00E9"},
-        {"\xC1\xBF", u"??"},  // longer than need be
-        {"\xE0\x9F\xBF", u"???"},
-        {"\xF0\x8F\xBF\xBF", u"????"},
-        {"\xED\xA0\x80", u"???"},  // half a pair
-        {"\xED\xBF\xBF", u"???"},
-        {"\xF4\x90\x80\x80", u"????"},  // beyond the last character
-        {"\xF7\x80\x80\x80", u"????"},
-        {"\xF8\x80\x80\x80\x80", u"?????"},
-        {"\xFF", u"?"},
+         OLESTR("??a")},
+        {"\xF0\x9F\x98", OLESTR("???")},
+        {"\xC3\xC3\xA9", OLESTR("?\u00E9")},
+        {"\xC1\xBF", OLESTR("??")},  // longer than need be
+        {"\xE0\x9F\xBF", OLESTR("???")},
+        {"\xF0\x8F\xBF\xBF", OLESTR("????")},
+        {"\xED\xA0\x80", OLESTR("???")},  // half a pair
+        {"\xED\xBF\xBF", OLESTR("???")},
+        {"\xF4\x90\x80\x80", OLESTR("????")},  // beyond the last character
+        {"\xF7\x80\x80\x80", OLESTR("????")},
+        {"\xF8\x80\x80\x80\x80", OLESTR("?????")},
+        {"\xFF", OLESTR("?")},
     };
     for (const auto& [bytes, expected] : broken) {
         EXPECT_EQ(FromUtf8(bytes), expected) << testing::PrintToString(bytes);
@@ -96,6 +95,4 @@ TEST(Utf8, BytesThatAreNoCharacterBecomeQuestionMarks)
 }
 
 }  // namespace
-}  // namespace tamur::platform
-
-#endif
+}  // namespace tamur

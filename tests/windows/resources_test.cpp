@@ -19,7 +19,7 @@ struct Script {
     bool isProgrammable;
 };
 
-// As they have always been carried: 13509 repeats 13503, 13510 has the name of 13506, and 13504 a
+// Carried with their irregularities: 13509 repeats 13503, 13510 has the name of 13506, and 13504 a
 // class identifier of its own.
 const Script kScripts[] = {
     {13502, "TAMURReader.TAMURStructureReader", "TAMURStructureReader Class",

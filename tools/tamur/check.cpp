@@ -7,7 +7,7 @@
 
 #include "import.h"
 #include "import/driver.h"
-#include "text.h"
+#include <tamur/utf8.h>
 
 namespace tamur::tool {
 namespace {

@@ -5,7 +5,7 @@
 #include "import/driver.h"
 #include "message_boxes.h"
 #include "process.h"
-#include "text.h"
+#include <tamur/utf8.h>
 
 namespace tamur::tool {
 namespace {

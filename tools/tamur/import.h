@@ -23,7 +23,7 @@ class ImportRefused : public std::runtime_error {
 [[nodiscard]] ComPtr<ITAMURStructureReader> Import(const Component& component,
                                                    const std::string& file);
 
-// The line behind the file's first "#Version"; empty when there is none. The interface does not
+// The line after the file's first "#Version"; empty when there is none. The interface does not
 // give it.
 [[nodiscard]] std::string VersionOf(const std::string& file);
 

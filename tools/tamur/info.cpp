@@ -6,7 +6,7 @@
 
 #include "import.h"
 #include "tables.h"
-#include "text.h"
+#include <tamur/utf8.h>
 
 namespace tamur::tool {
 namespace {

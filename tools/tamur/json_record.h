@@ -10,7 +10,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "text.h"
+#include <tamur/utf8.h>
 
 namespace tamur::tool {
 

@@ -7,7 +7,7 @@
 
 namespace tamur::tool {
 
-// The arguments behind the program's name, in UTF-8.
+// The arguments after the program's name, in UTF-8.
 [[nodiscard]] std::vector<std::string> Arguments(int argc, char** argv);
 
 [[nodiscard]] std::filesystem::path ExecutableFolder();

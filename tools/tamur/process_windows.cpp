@@ -9,7 +9,7 @@
 
 #include <cstdio>
 
-#include "text.h"
+#include <tamur/utf8.h>
 
 namespace tamur::tool {
 

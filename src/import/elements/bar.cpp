@@ -48,7 +48,7 @@ void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file, Bar
     std::int32_t startSection = 0, endSection = 0, startRelease = 0, endRelease = 0;
     tokens >> bar.group >> type >> bar.orientationNode >> bar.angle >> bar.meshStep >> material >>
         startSection >> endSection >> startRelease >> endRelease >> offset;
-    // From version 12.2A on five reals follow. They mean nothing here and nothing stands behind
+    // From version 12.2A on five reals follow. They mean nothing here and nothing follows
     // them, so they are left unread.
     bar.type = static_cast<std::uint8_t>(type >= 1 && type <= 5 ? type : 0);
     bar.offset = OffsetOf(offset);

@@ -3,6 +3,7 @@
 #include "import/elements/element_line.h"
 
 #include "import/elements/bar.h"
+#include "import/elements/element_kind.h"
 #include "import/elements/element_reader.h"
 #include "import/elements/references.h"
 #include "import/elements/wall.h"
@@ -36,7 +37,7 @@ std::uint8_t ConditionOf(std::int32_t code)
 // ElementReader finds these by the type of the record; not in the unnamed namespace, where it
 // could not.
 
-// Kind 1
+// kNode
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Node& node)
 {
     std::int32_t fixity = 0;
@@ -44,7 +45,7 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Node& n
     node.fixity = static_cast<std::uint8_t>(fixity);
 }
 
-// Kind 3
+// kSurface
 static void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file,
                         Surface& surface)
 {
@@ -57,7 +58,7 @@ static void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& fi
     if (surface.type == kPlaneStrain) surface.thickness = 1.0;
 }
 
-// Kind 4
+// kPointSupport
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, PointSupport& support)
 {
     std::int32_t condition = 0;
@@ -66,26 +67,26 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, PointSu
     support.condition = ConditionOf(condition);
 }
 
-// Kind 5
+// kPointLoad
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, PointLoad& load)
 {
     tokens >> load.caseNumber >> load.frame >> load.force >> load.moment;
 }
 
-// Kind 6
+// kLineLoad
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineLoad& load)
 {
     tokens >> load.caseNumber >> load.frame >> load.intensityStart >> load.intensityEnd >>
         load.force >> load.moment;
 }
 
-// Kind 7
+// kSurfaceLoad
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceLoad& load)
 {
     tokens >> load.caseNumber >> load.frame >> load.intensity >> load.force;
 }
 
-// Kinds 8 and 13
+// kSelfWeight and kThermalLoad
 static void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile&, GroupLoad& load)
 {
     tokens >> load.caseNumber >> load.values >> load.elementKind >> load.group;
@@ -93,13 +94,13 @@ static void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile&, G
     if (rank != 0) load.group = rank;
 }
 
-// Kind 9
+// kMass
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Mass& mass)
 {
     tokens >> mass.mass >> mass.inertia;
 }
 
-// Kind 10
+// kLineSupport
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineSupport& support)
 {
     std::int32_t condition = 0;
@@ -109,7 +110,7 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineSup
     support.condition = ConditionOf(condition);
 }
 
-// Kind 11
+// kSurfaceSupport
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceSupport& support)
 {
     std::int32_t condition = 0;
@@ -117,38 +118,38 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Surface
     support.condition = ConditionOf(condition);
 }
 
-// Kind 12
+// kDisplacement
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Displacement& displacement)
 {
     tokens >> displacement.group >> displacement.translation >> displacement.rotation;
 }
 
-// Kind 15
+// kSurfaceSection
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceSection& section)
 {
     tokens >> section.layer;
 }
 
-// Kind 16
+// kInnerLine
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, InnerLine& line)
 {
     tokens >> line.mesh;
 }
 
-// Kind 17
+// kOpening
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Opening& opening)
 {
     tokens >> opening.meshX >> opening.meshY;
 }
 
-// Kind 21
+// kCable
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Cable& cable)
 {
     tokens >> cable.group;
     tokens.Skip<std::int32_t>() >> cable.caseNumber >> cable.frame;
 }
 
-// Kind 22
+// kConstructionLine
 static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, ConstructionLine& line)
 {
     tokens >> line.group;
@@ -173,26 +174,28 @@ bool ParseElementLine(Model& model, const ModelFile& file, const Line& line)
         checkCas(model, file, load.caseNumber);
     };
 
-    switch (kind) {
-        case 1: add(model.nodes); break;
-        case 2: add(model.barTables->bars); break;
-        case 3: add(model.surfaces); break;
-        case 4: add(model.pointSupports); break;
-        case 5: add(model.pointLoads); break;
-        case 6: add(model.lineLoads); break;
-        case 7: add(model.surfaceLoads); break;
-        case 8: addGroupLoad(model.selfWeightLoads, CheckSelfWeightCas); break;
-        case 9: add(model.masses); break;
-        case 10: add(model.lineSupports); break;
-        case 11: add(model.surfaceSupports); break;
-        case 12: add(model.displacements); break;
-        case 13: addGroupLoad(model.thermalLoads, CheckThermalCas); break;
-        case 15: add(model.surfaceSections); break;
-        case 16: add(model.innerLines); break;
-        case 17: add(model.openings); break;
-        case 20: add(model.walls); break;
-        case 21: add(model.cables); break;
-        case 22: add(model.constructionLines); break;
+    switch (ElementKind{kind}) {
+        case ElementKind::kNode: add(model.nodes); break;
+        case ElementKind::kBar: add(model.barTables->bars); break;
+        case ElementKind::kSurface: add(model.surfaces); break;
+        case ElementKind::kPointSupport: add(model.pointSupports); break;
+        case ElementKind::kPointLoad: add(model.pointLoads); break;
+        case ElementKind::kLineLoad: add(model.lineLoads); break;
+        case ElementKind::kSurfaceLoad: add(model.surfaceLoads); break;
+        case ElementKind::kSelfWeight:
+            addGroupLoad(model.selfWeightLoads, CheckSelfWeightCas);
+            break;
+        case ElementKind::kMass: add(model.masses); break;
+        case ElementKind::kLineSupport: add(model.lineSupports); break;
+        case ElementKind::kSurfaceSupport: add(model.surfaceSupports); break;
+        case ElementKind::kDisplacement: add(model.displacements); break;
+        case ElementKind::kThermalLoad: addGroupLoad(model.thermalLoads, CheckThermalCas); break;
+        case ElementKind::kSurfaceSection: add(model.surfaceSections); break;
+        case ElementKind::kInnerLine: add(model.innerLines); break;
+        case ElementKind::kOpening: add(model.openings); break;
+        case ElementKind::kWall: add(model.walls); break;
+        case ElementKind::kCable: add(model.cables); break;
+        case ElementKind::kConstructionLine: add(model.constructionLines); break;
         default: file.Report(Finding::kUnknownKind); break;
     }
     return true;

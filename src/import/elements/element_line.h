@@ -1,7 +1,7 @@
 // One line of "#Elements" into one record of one table.
 #pragma once
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "model/model.h"
 
 namespace tamur {

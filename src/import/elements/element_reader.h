@@ -2,10 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <type_traits>
 
 #include "import/elements/labels.h"
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "import/scan/stream_scanner.h"
 #include "model/model.h"
 
@@ -32,13 +31,20 @@ concept HasLabels = requires(Record record)
     record.labels;
 };
 
+// A kind that drops some shapes: BrokenShapeRule says which finding that is.
+template <class Record>
+concept HasShapeRule = requires(const Record record)
+{
+    BrokenShapeRule(record);
+};
+
 // The points that a line must announce.
 template <class Record>
 inline constexpr std::int32_t kPointsNeeded = HasSegment<Record>    ? 2
                                               : HasPosition<Record> ? 1
                                                                     : 0;
 
-// Reads the line behind its kind into an empty record. The members of the record decide what
+// Reads the line after its kind into an empty record. The members of the record decide what
 // becomes of points and labels; ReadColumns, overloaded for each record, reads the rest.
 class ElementReader {
  public:
@@ -61,8 +67,8 @@ class ElementReader {
         pointCount = std::max(pointCount, 0);
         if (pointCount < kPointsNeeded<Record>) return Drop(Finding::kTooFewPoints);
         ReadGeometry(pointCount, record);
-        if constexpr (std::is_same_v<Record, Bar>) {
-            if (record.line.start == record.line.end) return Drop(Finding::kZeroLengthBar);
+        if constexpr (HasShapeRule<Record>) {
+            if (const auto broken = BrokenShapeRule(record)) return Drop(*broken);
         }
         if constexpr (HasLabels<Record>) {
             Keep(ReadLabels(tokens_, labelCount, model_.arena), record.labels);

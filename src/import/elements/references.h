@@ -4,12 +4,12 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "model/model.h"
 
 namespace tamur {
 
-// The place from 1 of record `number` of the current import, of which there are `count` behind
+// The place from 1 of record `number` of the current import, of which there are `count` after
 // the first `earlier`. A number that names none gives the first record, 0 in an empty table.
 inline std::uint32_t ResolveReference(std::int32_t number, std::size_t earlier, std::size_t count,
                                       const ModelFile& file, Finding replaced)

@@ -1,7 +1,7 @@
 #include "import/elements/wall.h"
 
-#include "import/switch_character.h"
-#include "import/version.h"
+#include "import/tables/switch_character.h"
+#include "import/tables/version.h"
 
 namespace tamur {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "import/scan/stream_scanner.h"
 #include "model/model.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "model/prompts.h"
+#include "prompts/prompts.h"
 
 namespace tamur {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "model/model.h"
 
 namespace tamur {

@@ -1,5 +1,5 @@
 #include "import/loads/case_parameters.h"
-#include "import/read_list.h"
+#include "import/file/read_list.h"
 
 namespace tamur {
 namespace {

@@ -45,7 +45,7 @@ const char* EndOfExponent(const char* at, char marker)
 
 struct Real {
     double value = 0;
-    const char* end = nullptr;     // behind the longest prefix that is a number; null when none is
+    const char* end = nullptr;     // after the longest prefix that is a number; null when none is
     char exponentMarker = '\0';    // that may still follow: 'e', 'p' or none
     bool isShortInfinity = false;  // written as "inf", which "infinity" may continue
     bool isBrokenHexadecimal = false;  // "0x" without digits, of which only the 0 counts
@@ -89,7 +89,7 @@ Real ReadReal(const char* at)
     return real;
 }
 
-// Where scanning goes on behind a real. It takes characters one by one and cannot give them
+// Where scanning goes on after a real. It takes characters one by one and cannot give them
 // back: an exponent without digits is gone, and a broken "0x" or "infinity" fails the
 // conversion. Null when it fails.
 const char* EndOfScan(const Real& real)

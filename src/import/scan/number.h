@@ -7,7 +7,7 @@ namespace tamur {
 
 // An optional sign and decimal digits.
 struct IntegerText {
-    const char* end = nullptr;  // behind the last digit; null when there is no digit
+    const char* end = nullptr;  // after the last digit; null when there is no digit
     bool isNegative = false;
     std::uint64_t magnitude = 0;  // stays at its largest value once it would overflow
 };

@@ -17,8 +17,9 @@ namespace tamur {
 // cannot be read, or does not fit its variable, leaves the variable as it was and ends the
 // extraction: everything after it stays unread too.
 //
-// The text is readable for kScanPadding bytes past its end, where a NUL stands. The common tokens,
-// short plain numbers between single blanks, are read here; the exact rules are in the .cpp.
+// The text is readable for kScanPadding bytes past its end, where there is a NUL. The common
+// tokens, short plain numbers between single blanks, are read here; the exact rules are in the
+// .cpp.
 class StreamScanner {
  public:
     StreamScanner(const char* text, const char* end) : at_(text), end_(end) {}
@@ -79,7 +80,7 @@ class StreamScanner {
     }
 
  private:
-    // Where a failed scanner stands: reading on fails again, without a flag to test.
+    // Where a failed scanner is: reading on fails again, without a flag to test.
     static constexpr char kNothing[kScanPadding] = {};
 
     template <class T>

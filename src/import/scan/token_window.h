@@ -16,7 +16,7 @@ namespace tamur {
 // space no end is found, and the caller reads by the exact rules.
 class TokenWindow {
  public:
-    // How far behind the place given to MoveTo bytes are read.
+    // How far after the place given to MoveTo bytes are read.
     static constexpr int kSize = 64;
 
     // Looks at the characters from `at` on; the line ends at `lineEnd`.

@@ -1,7 +1,6 @@
 #include <cstdio>
 
 #include "platform/platform.h"
-#include "platform/linux/utf8.h"
 
 namespace {
 
@@ -10,8 +9,8 @@ constexpr int kOk = 1;
 
 int WriteToStandardError(const OLECHAR* text, const OLECHAR* caption, UINT, void*)
 {
-    (void)std::fprintf(stderr, "%s: %s\n", tamur::platform::ToUtf8(caption).c_str(),
-                       tamur::platform::ToUtf8(text).c_str());
+    (void)std::fprintf(stderr, "%s: %s\n", tamur::ToUtf8(caption).c_str(),
+                       tamur::ToUtf8(text).c_str());
     return kOk;
 }
 

@@ -42,7 +42,7 @@ void CopyBytes(char* to, const char* from, std::size_t size)
 
 BSTR SysAllocStringByteLen(const char* bytes, UINT byteLength)
 {
-    constexpr std::uint32_t kNul = 0;  // a whole NUL also behind an odd length
+    constexpr std::uint32_t kNul = 0;  // a whole NUL also after an odd length
     char* const block =
         static_cast<char*>(std::malloc(kPrefix + std::size_t{byteLength} + sizeof kNul));
     if (block == nullptr) return nullptr;

@@ -1,5 +1,4 @@
 #include "platform/platform.h"
-#include "platform/linux/utf8.h"
 
 namespace tamur::platform {
 namespace {

@@ -1,5 +1,7 @@
 #include "server/registration.h"
 
+#include <tamur/com_ptr.h>
+
 #include "com/guarded.h"
 #include "com/module.h"
 #include "server/windows/instance.h"
@@ -31,27 +33,9 @@ constexpr CLSID kRegistrarClass = {
 constexpr IID kRegistrarInterface = {
     0x44EC053B, 0x400F, 0x11D0, {0x9D, 0xCD, 0x00, 0xA0, 0xC9, 0x03, 0x91, 0xD3}};
 
-template <class Interface>
-class Reference {
- public:
-    Reference() = default;
-    Reference(const Reference&) = delete;
-    Reference& operator=(const Reference&) = delete;
-    ~Reference()
-    {
-        if (pointer_ != nullptr) pointer_->Release();
-    }
-    Interface** operator&() { return &pointer_; }
-    Interface* operator->() const { return pointer_; }
-    [[nodiscard]] Interface* Get() const { return pointer_; }
-
- private:
-    Interface* pointer_ = nullptr;
-};
-
-platform::WideString ModulePath()
+WideString ModulePath()
 {
-    platform::WideString path(MAX_PATH, 0);
+    WideString path(MAX_PATH, 0);
     for (;;) {
         const DWORD size = static_cast<DWORD>(path.size());
         const DWORD length = GetModuleFileNameW(Instance(), path.data(), size);
@@ -64,9 +48,9 @@ platform::WideString ModulePath()
 }
 
 // Scripts end a value at a quote, so a quote in the path is written twice.
-platform::WideString Quoted(const platform::WideString& path)
+WideString Quoted(const WideString& path)
 {
-    platform::WideString quoted;
+    WideString quoted;
     for (const OLECHAR character : path) {
         quoted += character;
         if (character == L'\'') quoted += character;
@@ -76,11 +60,11 @@ platform::WideString Quoted(const platform::WideString& path)
 
 HRESULT RunScript(unsigned resource, BOOL doRegister)
 {
-    Reference<IRegistrar> registrar;
+    ComPtr<IRegistrar> registrar;
     HRESULT result = CoCreateInstance(kRegistrarClass, nullptr, CLSCTX_INPROC_SERVER,
-                                      kRegistrarInterface, reinterpret_cast<void**>(&registrar));
+                                      kRegistrarInterface, registrar.PutVoid());
     if (FAILED(result)) return result;
-    const platform::WideString path = ModulePath();
+    const WideString path = ModulePath();
     result = registrar->AddReplacement(L"MODULE", Quoted(path).c_str());
     if (FAILED(result)) return result;
     return doRegister ? registrar->ResourceRegister(path.c_str(), resource, L"REGISTRY")
@@ -97,9 +81,9 @@ HRESULT RunRegistryScript(unsigned resource, BOOL doRegister)
 HRESULT RegisterTypeLibrary()
 {
     return com::Guarded([] {
-        platform::WideString path = ModulePath();
-        Reference<ITypeLib> library;
-        const HRESULT result = LoadTypeLibEx(path.c_str(), REGKIND_NONE, &library);
+        WideString path = ModulePath();
+        ComPtr<ITypeLib> library;
+        const HRESULT result = LoadTypeLibEx(path.c_str(), REGKIND_NONE, library.Put());
         return SUCCEEDED(result) ? RegisterTypeLib(library.Get(), path.data(), nullptr) : result;
     });
 }
@@ -107,8 +91,8 @@ HRESULT RegisterTypeLibrary()
 HRESULT UnregisterTypeLibrary()
 {
     return com::Guarded([] {
-        Reference<ITypeLib> library;
-        const HRESULT result = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, &library);
+        ComPtr<ITypeLib> library;
+        const HRESULT result = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, library.Put());
         if (FAILED(result)) return result;
         TLIBATTR* attributes = nullptr;
         const HRESULT described = library->GetLibAttr(&attributes);

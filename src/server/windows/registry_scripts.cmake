@@ -1,5 +1,5 @@
 # The registry scripts, made from one table: they differ in nothing but its columns. Only 13502 and
-# 13503 are ever run; the others are carried as they have always been, irregularities included:
+# 13503 are ever run; the others are carried with their irregularities:
 # 13509 repeats 13503, 13510 gives the construction lines' name to the class of the inner lines,
 # and 13504 has a class identifier of its own.
 set(registry_scripts

@@ -20,7 +20,7 @@ cmake_language(DEFER DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} CALL
     target_precompile_headers tamur_core PRIVATE <algorithm> <array> <atomic> <cstdint>
     <bit> <charconv> <cstring> <limits> <map> <memory> <mutex> <new> <string> <string_view>
     <type_traits> <utility> <vector> <emmintrin.h> <TAMURReader.h>)
-file(GLOB compared src/import/scan/*.cpp src/import/model_file.cpp)
+file(GLOB compared src/import/scan/*.cpp src/import/file/model_file.cpp)
 file(GLOB comparing tests/unit/*scanner*.cpp tests/unit/decimal*.cpp tests/unit/model_file*.cpp)
 cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} CALL
     set_source_files_properties ${compared} ${comparing} DIRECTORY src tests

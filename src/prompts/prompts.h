@@ -1,7 +1,6 @@
 // The component's texts, by number.
 #pragma once
 
-#include "model/text.h"
 #include "platform/platform.h"
 
 namespace tamur {
@@ -19,12 +18,12 @@ class KdPrompts {
  public:
     // Gives the text of that number in that section; 1 when there is one, else 0 and an empty
     // text. `reserved` is 0.
-    static int GetPrompt(platform::WideString& text, unsigned number, const OLECHAR* section,
+    static int GetPrompt(WideString& text, unsigned number, const OLECHAR* section,
                          unsigned reserved);
 };
 
 // The prompt with its one "%s" or "%d" replaced.
-[[nodiscard]] platform::WideString FormatPrompt(unsigned number, WideView argument);
-[[nodiscard]] platform::WideString FormatPrompt(unsigned number, std::int32_t argument);
+[[nodiscard]] WideString FormatPrompt(unsigned number, WideStringView argument);
+[[nodiscard]] WideString FormatPrompt(unsigned number, std::int32_t argument);
 
 }  // namespace tamur

@@ -1,4 +1,4 @@
-#include "model/prompts.h"
+#include "prompts/prompts.h"
 
 #include <charconv>
 
@@ -12,7 +12,7 @@ struct Prompt {
 
 constexpr Prompt kPrompts[] = {
 #define PROMPT(number, text) {number, OLESTR(text)},
-#include "model/prompts.def"
+#include "prompts/prompts.def"
 #undef PROMPT
 };
 
@@ -20,11 +20,10 @@ constexpr std::size_t kPlaceholderLength = 2;  // "%s", "%d"
 
 }  // namespace
 
-int KdPrompts::GetPrompt(platform::WideString& text, unsigned number, const OLECHAR* section,
-                         unsigned)
+int KdPrompts::GetPrompt(WideString& text, unsigned number, const OLECHAR* section, unsigned)
 {
     text.clear();
-    if (WideView(section) != kPromptSection) return 0;
+    if (WideStringView(section) != kPromptSection) return 0;
     for (const Prompt& prompt : kPrompts) {
         if (prompt.number != number) continue;
         text = prompt.text;
@@ -33,20 +32,20 @@ int KdPrompts::GetPrompt(platform::WideString& text, unsigned number, const OLEC
     return 0;
 }
 
-platform::WideString FormatPrompt(unsigned number, WideView argument)
+WideString FormatPrompt(unsigned number, WideStringView argument)
 {
-    platform::WideString text;
+    WideString text;
     KdPrompts::GetPrompt(text, number, kPromptSection, 0);
     const std::size_t placeholder = text.find(OLECHAR{'%'});
     if (placeholder != text.npos) text.replace(placeholder, kPlaceholderLength, argument);
     return text;
 }
 
-platform::WideString FormatPrompt(unsigned number, std::int32_t argument)
+WideString FormatPrompt(unsigned number, std::int32_t argument)
 {
     char digits[12];
     const auto result = std::to_chars(digits, digits + sizeof digits, argument);
-    return FormatPrompt(number, platform::WideString(digits, static_cast<char*>(result.ptr)));
+    return FormatPrompt(number, WideString(digits, static_cast<char*>(result.ptr)));
 }
 
 }  // namespace tamur

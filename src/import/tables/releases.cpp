@@ -1,4 +1,4 @@
-#include "import/releases.h"
+#include "import/tables/releases.h"
 
 #include "import/scan/format_scanner.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "import/scan/stream_scanner.h"
 #include "model/arena.h"
 #include "model/list.h"

@@ -1,15 +1,15 @@
-#include "import/groups.h"
+#include "import/tables/groups.h"
 
 #include <algorithm>
 #include <string>
 
 #include "import/scan/format_scanner.h"
-#include "import/switch_character.h"
+#include "import/tables/switch_character.h"
 
 namespace tamur {
 namespace {
 
-// Titles are one word in the file: "_" stands for a blank.
+// Titles are one word in the file: "_" means a blank.
 Text MakeTitle(Arena& arena, std::string_view word)
 {
     std::string title(word);

@@ -1,10 +1,10 @@
-#include "import/section_geometries.h"
+#include "import/tables/section_geometries.h"
 
 #include <algorithm>
 
-#include "import/read_list.h"
+#include "import/file/read_list.h"
 #include "import/scan/stream_scanner.h"
-#include "import/section_name.h"
+#include "import/tables/section_name.h"
 
 namespace tamur {
 namespace {

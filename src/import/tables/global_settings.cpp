@@ -1,4 +1,4 @@
-#include "import/global_settings.h"
+#include "import/tables/global_settings.h"
 
 #include <cstring>
 
@@ -7,7 +7,7 @@
 namespace tamur {
 namespace {
 
-// The line behind the header as one value of that type; false when there is no such header.
+// The line after the header as one value of that type; false when there is no such header.
 template <class T>
 bool ReadValue(ModelFile& file, SectionHeader header, T& value)
 {
@@ -18,12 +18,12 @@ bool ReadValue(ModelFile& file, SectionHeader header, T& value)
     return true;
 }
 
-TMRWorkSpace WorkSpaceOf(std::int32_t code)
+WorkSpace WorkSpaceOf(std::int32_t code)
 {
     switch (code) {
-        case 0: return TMRWS_PLAN;
-        case 1: return TMRWS_GRILLE;
-        default: return TMRWS_SPATIAL;
+        case 0: return WorkSpace::kPlane;
+        case 1: return WorkSpace::kGrid;
+        default: return WorkSpace::kSpace;
     }
 }
 
@@ -56,7 +56,7 @@ bool ReadGlobalSettings(Model& model, ModelFile& file)
     if (!ReadValue(file, SectionHeader::kRigidity, rigidity)) return false;
     model.settings.tolerance = tolerance;
     model.settings.workSpace = WorkSpaceOf(workSpace);
-    model.settings.rigidity = rigidity == 0 ? TMRStructureNonRigide : TMRStructureRigide;
+    model.settings.isRigid = rigidity != 0;
     return true;
 }
 

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "import/observer.h"
-#include "import/section_header.h"
+#include "import/file/section_header.h"
 #include "platform/platform.h"
 
 namespace tamur {
@@ -15,7 +15,7 @@ namespace tamur {
 // is readable for kScanPadding bytes past `end`. Valid until the next line is read.
 struct Line {
     const char* text = "";
-    const char* end = text;  // where the line ends in the file: at the NUL or, behind one, later
+    const char* end = text;  // where the line ends in the file: at the NUL or, after one, later
 
     [[nodiscard]] bool IsEmpty() const { return *text == '\0'; }
     [[nodiscard]] bool IsHeader() const { return *text == '#'; }
@@ -29,13 +29,13 @@ struct Line {
 // characters is cut there, the rest being a line of its own.
 //
 // The file passes through a buffer and is never held whole. The first search for a header passes
-// over the file once and notes where all headers stand.
+// over the file once and notes where all headers are.
 class ModelFile {
  public:
     // `source` must outlive this object. `observer` may be null.
     explicit ModelFile(platform::BlockSource& source, ImportObserver* observer = nullptr);
 
-    // Goes to the line behind the first line of the file that equals the header. False, and at
+    // Goes to the line after the first line of the file that equals the header. False, and at
     // the end of the file, when there is none.
     bool FindSectionHeader(SectionHeader header);
     bool FindSectionHeader(SectionHeader plain, SectionHeader accented)

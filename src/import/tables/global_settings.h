@@ -1,7 +1,7 @@
 // The one-value sections: version, service pack, working space, tolerance, rigidity.
 #pragma once
 
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 #include "model/model.h"
 
 namespace tamur {

@@ -1,9 +1,9 @@
-#include "import/model_file.h"
+#include "import/file/model_file.h"
 
 #include <algorithm>
 #include <cstring>
 
-#include "import/find_byte.h"
+#include "import/file/find_byte.h"
 #include "import/scan/characters.h"
 
 namespace tamur {
@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{256} << 10;
 
-// The product reads lines into 50000 bytes with a NUL at the end. The line feed counts.
+// A line is read as into 50000 bytes: 49999 characters, the line feed among them, and a NUL.
 constexpr std::size_t kLongestLine = 49999;
 
 // Enough bytes to tell the extent of any line: the longest and a line end of two.

@@ -1,4 +1,4 @@
-#include "import/section_name.h"
+#include "import/tables/section_name.h"
 
 #include <charconv>
 #include <initializer_list>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kAbsent = -1;
 
-// The dimensions behind the letter and the characters between them, as far as they go.
+// The dimensions after the letter and the characters between them, as far as they go.
 struct Dimensions {
     double a = kAbsent, b = kAbsent, c = kAbsent, d = kAbsent, e = kAbsent;
     char s1 = '\0', s2 = '\0', s3 = '\0', s4 = '\0';
@@ -35,7 +35,7 @@ bool IsZero(double length)
     return length * length <= 1e-10;
 }
 
-// Puts numbers, as "%g" prints them, and characters behind the letter.
+// Puts numbers, as "%g" prints them, and characters after the letter.
 std::string Compose(char letter, std::initializer_list<std::variant<double, char>> parts)
 {
     std::string text(1, letter);
@@ -60,7 +60,7 @@ std::string CentredTee(const Dimensions& n)
     return Compose('T', {n.d + n.b, n.s3, n.c, n.s2, n.a, n.s1, n.b});
 }
 
-// The web stands off the middle: the flange is named as two halves, left and right of the web.
+// The web is off the middle: the flange is named as two halves, left and right of the web.
 std::string WideTee(const Dimensions& n)
 {
     const double right = (n.a - n.c) - n.e;

@@ -1,25 +1,26 @@
-#include "model/type_names.h"
+#include "accessors/type_names.h"
 
 namespace tamur {
 
-WideView BarTypeName(int code)
+WideStringView BarTypeName(int code)
 {
-    static constexpr WideView kNames[] = {OLESTR(""),        OLESTR("Barre"),   OLESTR("Poutre"),
-                                          OLESTR("PoutreV"), OLESTR("PoutreC"), OLESTR("Tirant")};
+    static constexpr WideStringView kNames[] = {OLESTR(""),        OLESTR("Barre"),
+                                                OLESTR("Poutre"),  OLESTR("PoutreV"),
+                                                OLESTR("PoutreC"), OLESTR("Tirant")};
     return kNames[code >= 1 && code <= 5 ? code : 0];
 }
 
-WideView SurfaceTypeName(int code)
+WideStringView SurfaceTypeName(int code)
 {
-    static constexpr WideView kNames[] = {
+    static constexpr WideStringView kNames[] = {
         OLESTR("Coque"),    OLESTR("Membrane"), OLESTR("Plaque"),    OLESTR("Coque"),
         OLESTR("Plaque E"), OLESTR("Coque E"),  OLESTR("Déf Plane"), OLESTR("Axisym")};
     return kNames[code >= 1 && code <= 7 ? code : 0];
 }
 
-WideView SupportTypeText(SupportKind kind, int condition)
+WideStringView SupportTypeText(SupportKind kind, int condition)
 {
-    static constexpr WideView kTexts[3][4] = {
+    static constexpr WideStringView kTexts[3][4] = {
         {OLESTR("Appui ponctuel vide"), OLESTR("Appui ponctuel rigide"),
          OLESTR("Appui ponctuel élastique"), OLESTR("Appui ponctuel butée")},
         {OLESTR("Appui linéaire vide"), OLESTR("Appui linéaire rigide"),
@@ -29,7 +30,7 @@ WideView SupportTypeText(SupportKind kind, int condition)
     return kTexts[static_cast<int>(kind)][condition >= 1 && condition <= 3 ? condition : 0];
 }
 
-WideView GroupTypeName(int elementKind, int code)
+WideStringView GroupTypeName(int elementKind, int code)
 {
     switch (elementKind) {
         case 1: return SupportTypeText(SupportKind::kPoint, code);

@@ -1,4 +1,4 @@
-#include "import/materials.h"
+#include "import/tables/materials.h"
 
 #include "import/scan/format_scanner.h"
 
