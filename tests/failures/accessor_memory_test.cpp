@@ -212,6 +212,7 @@ TEST(FailingMemory, EveryAllocationOfAReaderMayFail)
         const auto getFactory = [&](ComPtr<IClassFactory>& factory) {
             return TheComponent().GetClassObject(*classId, IID_IClassFactory, factory.PutVoid());
         };
+        (void)platform::PrepareForBadAlloc();  // not to be counted
         MemoryWatch memory;
         ComPtr<IClassFactory> factory;
         memory.FailAt(1, Failing::kOnce);

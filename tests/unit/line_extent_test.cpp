@@ -53,7 +53,7 @@ TEST(LineExtent, OfLinesThatABufferHoldsInPart)
 
 TEST(LineExtent, OfLinesThatAreCutAndOfWhatIsLeftOfThem)
 {
-    test::MemorySource source(std::string(2 * kLongest + 3, 'x') + "\nbehind\n" +
+    test::MemorySource source(std::string(2 * kLongest + 3, 'x') + "\nafter\n" +
                               std::string(kLongest + 5, 'y'));
     ModelFile file(source);
     ExpectNext(file, std::string(kLongest, 'x'));

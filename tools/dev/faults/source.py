@@ -3,9 +3,9 @@
 import re
 from dataclasses import dataclass
 
-COMPARISONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
-               "==": ("!=",), "!=": ("==",)}
-SWAPS = {"&&": ("||",), "||": ("&&",), "+": ("-",), "-": ("+",), "+=": ("-=",), "-=": ("+=",)}
+OPERATORS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
+             "==": ("!=",), "!=": ("==",), "&&": ("||",), "||": ("&&",),
+             "+": ("-",), "-": ("+",), "+=": ("-=",), "-=": ("+=",)}
 NOT_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"'
                       r"|(?<![0-9A-Fa-f])'(?:\\.|[^'\\\n])+'|^[ \t]*#(?:\\\n|[^\n])*",
                       re.DOTALL | re.MULTILINE)
@@ -22,17 +22,20 @@ STATEMENT = re.compile(rf"(?:{PLACE} (?:[-+*/|&^]|<<|>>)?= .*|{PLACE} >> .*"
                        r"|(?!return|throw)[\w:.\->\[\]<>]+\(.*\));")
 
 
-@dataclass(frozen=True)
+@dataclass
 class Fault:
     file: str
     line: int  # from 1
-    kind: str
-    original: str  # the whole lines, without indentation
+    original: str  # the whole line
     changed: str
-    text: str  # of the line with the fault
 
-    def key(self):
-        return self.file, self.original, self.changed
+    def change(self):
+        return f"{self.original.strip()} -> {self.changed.strip()}"
+
+    def planted_in(self, text):
+        lines = text.split("\n")
+        lines[self.line - 1] = self.changed
+        return "\n".join(lines)
 
 
 def blank_out(text):
@@ -53,33 +56,30 @@ def closing(code, start):
     return -1
 
 
-def changes(code):
-    """(kind, begin, end, replacement) for each fault that this line of code can hold."""
-    for match in re.finditer(r"(?<= )(<|<=|>|>=|==|!=)(?= )", code):
-        for other in COMPARISONS[match.group()]:
-            yield "comparison", *match.span(), other
-    for match in re.finditer(r"(?<=\S )(&&|\|\||\+=?|-=?)(?= \S)", code):
-        for other in SWAPS[match.group()]:
-            yield "operator", *match.span(), other
+def changes(code, line):
+    """(begin, end, replacement) for each fault that this line of code can hold."""
+    for match in re.finditer(r"(?<=\S )([<>]=?|[=!]=|&&|\|\||\+=?|-=?)(?= \S)", code):
+        for other in OPERATORS[match.group()]:
+            yield *match.span(), other
     for match in re.finditer(r"(?<![\w.'])(0x[0-9A-Fa-f]+|\d+)(?=[uUlL]*(?![\w.']))", code):
         number = int(match.group(), 0)
         for other in (number + 1, number - 1):
             if other >= 0:
-                yield "constant", *match.span(), hex(other) if "x" in match.group() else str(other)
+                yield *match.span(), hex(other) if "x" in match.group() else str(other)
     for match in re.finditer(r"\+\+|--", code):
-        yield "increment", *match.span(), "--" if match.group() == "++" else "++"
+        yield *match.span(), "--" if match.group() == "++" else "++"
     for match in re.finditer(r"\b(true|false)\b", code):
-        yield "truth", *match.span(), "false" if match.group() == "true" else "true"
+        yield *match.span(), "false" if match.group() == "true" else "true"
     for match in re.finditer(r"!(?=[\w(*])", code):
-        yield "negation", *match.span(), ""
+        yield *match.span(), ""
     for match in re.finditer(r"\b(?:if|while) \(", code):
         end = closing(code, match.end() - 1)
         if end > 0 and code[match.end():end] not in ("true", "false"):
             for other in ("true", "false"):
-                yield "condition", match.end(), end, other
+                yield match.end(), end, other
     for match in re.finditer(r"\breturn (?!true;|false;|nullptr;|\*this;|\{\};)([^;]+);", code):
-        yield "return", *match.span(1), "{}"
-        yield "return", *match.span(1), f"!({match.group(1)})"
+        yield *match.span(1), "{}"
+        yield *match.span(1), f"!({line[slice(*match.span(1))]})"
 
 
 def dropped_statement(code, before):
@@ -88,7 +88,7 @@ def dropped_statement(code, before):
         return
     if before.rstrip().endswith(("{", "}", ";", ")", ":", "else")):
         begin = code.index(statement)
-        yield "statement", begin, begin + len(statement), ";"
+        yield begin, begin + len(statement), ";"
 
 
 def faults_of(file, text):
@@ -98,19 +98,10 @@ def faults_of(file, text):
         in_assertion = in_assertion or "static_assert" in code
         skipped = in_assertion or not code.strip() or DECLARATION.match(code)
         if not skipped and not (file.endswith(".h") and CONSTANT_IN_HEADER.fullmatch(code)):
-            for kind, begin, end, other in [*changes(code), *dropped_statement(code, before)]:
-                # A return value is negated as written, with its literals.
-                if kind == "return" and other != "{}":
-                    other = f"!({line[begin:end]})"
+            for begin, end, other in [*changes(code, line),
+                                      *dropped_statement(code, before)]:
                 changed = line[:begin] + other + line[end:]
-                fault = Fault(file, number, kind, line.strip(), changed.strip(), changed)
-                found.setdefault((number, changed), fault)
+                found[number, changed] = Fault(file, number, line, changed)
         in_assertion = in_assertion and ";" not in code
         before = code if code.strip() else before
     return list(found.values())
-
-
-def plant(text, fault):
-    lines = text.split("\n")
-    lines[fault.line - 1] = fault.text
-    return "\n".join(lines)
