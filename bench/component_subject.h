@@ -16,25 +16,27 @@ inline Component& TheComponent()
     return component;
 }
 
-// Seconds of one import, without making and releasing the reader. Throws ComponentError.
-inline double TimeImport(ITAMURStructureReader& reader, const std::filesystem::path& path)
+// Throws ComponentError.
+inline void Import(ITAMURStructureReader& reader, const std::filesystem::path& path)
 {
     const std::string& native = path.native();
     const String name(std::basic_string<OLECHAR>(native.begin(), native.end()).c_str());
-    return Timed([&] { Check(reader.Import(name.Get()), "Import"); });
-}
-
-inline double TimeImport(const std::filesystem::path& path)
-{
-    return TimeImport(*TheComponent().CreateReader(), path);
+    Check(reader.Import(name.Get()), "Import");
 }
 
 // A new reader that has imported the file.
 [[nodiscard]] inline ComPtr<ITAMURStructureReader> Imported(const std::filesystem::path& path)
 {
     const auto reader = TheComponent().CreateReader();
-    TimeImport(*reader, path);
+    Import(*reader, path);
     return reader;
+}
+
+// Seconds of one import, without making and releasing the reader.
+[[nodiscard]] inline double TimeImport(const std::filesystem::path& path)
+{
+    const auto reader = TheComponent().CreateReader();
+    return Timed([&] { Import(*reader, path); });
 }
 
 }  // namespace tamur::bench

@@ -33,9 +33,8 @@ void MeasureHostileFiles(Context& context)
     const TemporaryPath onceFile, twiceFile;
     const std::filesystem::path &once = onceFile.Get(), &twice = twiceFile.Get();
     for (const HostileFamily& family : HostileFamilies()) {
-        const int size = context.isQuick ? family.size / 10 : family.size;
-        WriteFile(family, size, once);
-        WriteFile(family, 2 * size, twice);
+        WriteFile(family, family.size, once);
+        WriteFile(family, 2 * family.size, twice);
         const auto samples =
             context.Measure({[&] { return TimeWhole(once); }, [&] { return TimeWhole(twice); }});
         context.report.Add(

@@ -1,9 +1,9 @@
 // Importing, beside the straightforward way and the floor, and what it does to memory.
 #include "component_subject.h"
 #include "context.h"
-#include "generator.h"
 #include "floor.h"
 #include "fresh_process.h"
+#include "generator.h"
 #include "straightforward.h"
 
 namespace tamur::bench {

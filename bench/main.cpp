@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <limits>
-#include <map>
+#include <string>
+#include <vector>
 
 #include "context.h"
 #include "fresh_process.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace tamur::bench {
 namespace {
@@ -30,7 +31,7 @@ std::vector<Samples> MeasureInTurns(const std::vector<Subject>& subjects, Effort
     std::vector<int> runs;
     for (const Subject& subject : subjects) {
         const double needed = std::ceil(effort.seconds / std::max(subject(), 1e-9));
-        runs.push_back(static_cast<int>(std::min(needed, kMostRuns)));
+        runs.push_back(static_cast<int>(std::clamp(needed, 1.0, kMostRuns)));
     }
     std::vector<Samples> samples(subjects.size());
     for (int round = 0; round < effort.rounds; ++round) {

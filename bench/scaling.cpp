@@ -5,8 +5,8 @@
 
 #include "component_subject.h"
 #include "context.h"
-#include "generator.h"
 #include "floor.h"
+#include "generator.h"
 
 namespace tamur::bench {
 namespace {
