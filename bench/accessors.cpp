@@ -1,15 +1,13 @@
-// What reading the model through the accessors costs. Single calls are short, so Google Benchmark
-// runs them; its random interleaving takes the place of the rounds.
-#include <benchmark/benchmark.h>
+// What reading the model through the accessors costs.
 #include <tamur/ranges.h>
 
+#include <algorithm>
 #include <cstdlib>
-#include <functional>
-#include <map>
 #include <vector>
 
 #include "component_subject.h"
 #include "context.h"
+#include "generator.h"
 
 namespace tamur::bench {
 namespace {
@@ -17,11 +15,14 @@ namespace {
 // The sizes of what a record holds: strings with length and NUL, blocks as they are.
 class Sizes {
  public:
-    template <class PublicRecord>
-    void AddRecord(PublicRecord& record)
+    template <class Range>
+    Sizes(const Range& range, LONG count)
     {
-        VisitFields(record, *this);
-        all_.push_back(kEndOfRecord);
+        for (LONG rank = 0; rank < count; ++rank) {
+            auto record = range.At(rank);
+            VisitFields(record.Get(), *this);
+            all_.push_back(kEndOfRecord);
+        }
     }
 
     template <class Value>
@@ -50,7 +51,7 @@ class Sizes {
                 blocks[count++] = std::malloc(size);
                 continue;
             }
-            benchmark::DoNotOptimize(blocks);
+            Keep(blocks);
             for (std::size_t i = 0; i < count; ++i) std::free(blocks[i]);
             count = 0;
         }
@@ -62,165 +63,104 @@ class Sizes {
     std::vector<std::size_t> all_;
 };
 
-// Runs what was registered, in turns, and keeps the processor time of every run by name.
-class Collector : public benchmark::BenchmarkReporter {
- public:
-    explicit Collector(int rounds)
-    {
-        std::string repetitions = "--benchmark_repetitions=" + std::to_string(rounds);
-        std::string interleaving = "--benchmark_enable_random_interleaving=true";
-        std::string time = "--benchmark_min_time=0.1";
-        std::string name = "tamur_bench";
-        char* arguments[] = {name.data(), repetitions.data(), interleaving.data(), time.data()};
-        int count = 4;
-        benchmark::Initialize(&count, arguments);
-        benchmark::RunSpecifiedBenchmarks(this);
-        benchmark::ClearRegisteredBenchmarks();
-    }
-
-    bool ReportContext(const Context&) override { return true; }
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        for (const Run& run : runs) {
-            if (run.run_type != Run::RT_Iteration) continue;
-            samples_[run.run_name.function_name].Add(run.GetAdjustedCPUTime());
-        }
-    }
-
-    [[nodiscard]] const Samples& Of(const std::string& name) const { return samples_.at(name); }
-
- private:
-    std::map<std::string, Samples> samples_;
-};
-
-void Register(const std::string& name, const std::function<void()>& work)
-{
-    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
-        for (auto _ : state) work();
-    });
-}
-
-// Reading a sample of the table, record by record, and freeing each.
+// Reading the first records of the table, one by one, and freeing each.
 template <class Range>
-std::function<void()> ReadAll(const Range& range, LONG count)
+Subject Reading(const Range& range, LONG count)
 {
     return [&range, count] {
-        for (LONG rank = 0; rank < count; ++rank) {
-            const auto record = range.At(rank);
-            benchmark::DoNotOptimize(record.Get());
-        }
+        return Timed([&] {
+            for (LONG rank = 0; rank < count; ++rank) Keep(range.At(rank));
+        });
     };
 }
 
-template <class Range>
-Sizes SizesOf(const Range& range, LONG count)
+Subject Allocating(const Sizes& sizes)
 {
-    Sizes sizes;
-    for (LONG rank = 0; rank < count; ++rank) sizes.AddRecord(range.At(rank).Get());
-    return sizes;
+    return [&sizes] { return Timed([&] { sizes.AllocateAll(); }); };
 }
 
 // Only the call is timed; freeing what it made is not.
-void RegisterGetNodes(const std::string& name, ITMRNodeAccessor& accessor, LONG count)
+double TimeGetNodes(ITMRNodeAccessor& accessor, std::vector<TMRNode>& nodes)
 {
-    benchmark::RegisterBenchmark(name.c_str(), [&accessor, count](benchmark::State& state) {
-        std::vector<TMRNode> nodes(static_cast<std::size_t>(count));
-        for (auto _ : state) {
-            Check(accessor.GetNodes(nodes.data()), "GetNodes");
-            state.PauseTiming();
-            for (TMRNode& node : nodes) CoTaskMemFree(node.ElemLabels.tabLabels);
-            state.ResumeTiming();
-        }
-    });
+    const double seconds = Timed([&] { Check(accessor.GetNodes(nodes.data()), "GetNodes"); });
+    for (const TMRNode& node : nodes) CoTaskMemFree(node.ElemLabels.tabLabels);
+    return seconds;
 }
 
-void RegisterGetAccessor(const std::string& name, ITAMURStructureReader& reader)
+constexpr int kAccessors = 100000;
+
+Subject GettingAccessors(ITAMURStructureReader& reader)
 {
-    Register(name, [&reader] {
-        benchmark::DoNotOptimize(GetAccessor(reader, &ITAMURStructureReader::GetFilaireAccessor));
-    });
-}
-
-void MeasureRecords(Context& context)
-{
-    const auto reader = Imported(context.files.Get({.elements = context.Large()}).path);
-    const auto few = Imported(context.files.Get({.elements = context.Large() / 100}).path);
-    const auto bars = Filaires(*reader);
-    const auto nodes = Nodes(*reader);
-    const LONG barCount = bars.Size();
-    const LONG nodeCount = nodes.Size();
-    // As many as fill the caches with what is allocated a few times over.
-    const LONG barSample = std::min<LONG>(barCount, 20000);
-    const LONG nodeSample = std::min<LONG>(nodeCount, 200000);
-    const Sizes barSizes = SizesOf(bars, barSample);
-    const Sizes nodeSizes = SizesOf(nodes, nodeSample);
-
-    Register("bars", ReadAll(bars, barSample));
-    Register("bar sizes", [&] { barSizes.AllocateAll(); });
-    Register("nodes", ReadAll(nodes, nodeSample));
-    Register("node sizes", [&] { nodeSizes.AllocateAll(); });
-    RegisterGetNodes("all nodes", nodes.TheAccessor(), nodeCount);
-    RegisterGetAccessor("accessor", *reader);
-    RegisterGetAccessor("accessor of few", *few);
-    const Collector results(context.rounds);
-
-    Row row = Ratio("GetFilaireAtRank + freeing / bare allocations", results.Of("bars"),
-                    results.Of("bar sizes"));
-    row.must = 1.8;
-    row.aim = 1.4;
-    context.report.Add(row);
-    const auto addTime = [&](const char* what, const char* of, LONG count, const char* unit) {
-        const Samples& samples = results.Of(of);
-        context.report.Add({.what = what,
-                            .measured = samples.Median() / count,
-                            .unit = unit,
-                            .spread = samples.Spread()});
+    return [&reader] {
+        return Timed([&] {
+            for (int i = 0; i < kAccessors; ++i) {
+                Keep(GetAccessor(reader, &ITAMURStructureReader::GetFilaireAccessor));
+            }
+        });
     };
-    addTime("GetFilaireAtRank + freeing", "bars", barSample, "ns/bar");
-    row = Ratio("GetNodeAtRank + freeing / bare allocations", results.Of("nodes"),
-                results.Of("node sizes"));
-    row.must = 3;
-    row.aim = 2;
-    context.report.Add(row);
-    addTime("GetNodeAtRank + freeing", "nodes", nodeSample, "ns/node");
-    addTime("GetNodes", "all nodes", nodeCount, "ns/node");
-    const Samples& accessor = results.Of("accessor");
-    context.report.Add({.what = "GetFilaireAccessor, " + std::to_string(barCount) + " bars",
-                        .measured = accessor.Median() / barCount,
-                        .unit = "ns/bar",
-                        .must = 10,
-                        .spread = accessor.Spread()});
-    row = Ratio("GetFilaireAccessor: many bars / a hundredth of them", accessor,
-                results.Of("accessor of few"));
-    row.aim = 1.2;
-    context.report.Add(row);
+}
+
+void AddTime(Context& context, const std::string& what, const Samples& seconds, double records,
+             const char* unit, double must = kNoGoal)
+{
+    context.report.Add(
+        {.what = what, .samples = Scaled(seconds, 1e9 / records), .must = must, .unit = unit});
+}
+
+void MeasureRecords(Context& context, ITAMURStructureReader& reader)
+{
+    const auto bars = Filaires(reader);
+    const auto nodes = Nodes(reader);
+    // As many as fill the caches with what is allocated a few times over.
+    const LONG barCount = std::min<LONG>(bars.Size(), 20000);
+    const LONG nodeCount = std::min<LONG>(nodes.Size(), 200000);
+    const Sizes barSizes(bars, barCount), nodeSizes(nodes, nodeCount);
+    std::vector<TMRNode> all(static_cast<std::size_t>(nodes.Size()));
+    const auto samples = context.Measure({Reading(bars, barCount), Allocating(barSizes),
+                                          Reading(nodes, nodeCount), Allocating(nodeSizes),
+                                          [&] { return TimeGetNodes(nodes.TheAccessor(), all); }});
+    context.report.Add({"GetFilaireAtRank + freeing / bare allocations",
+                        Quotients(samples[0], samples[1]), 1.8, 1.4});
+    AddTime(context, "GetFilaireAtRank + freeing", samples[0], barCount, "ns/bar");
+    context.report.Add(
+        {"GetNodeAtRank + freeing / bare allocations", Quotients(samples[2], samples[3]), 3, 2});
+    AddTime(context, "GetNodeAtRank + freeing", samples[2], nodeCount, "ns/node");
+    AddTime(context, "GetNodes", samples[4], nodes.Size(), "ns/node");
+}
+
+void MeasureGetAccessor(Context& context, ITAMURStructureReader& reader)
+{
+    const auto few = Imported(ModelFile({.elements = context.Large() / 100}).Path());
+    const LONG bars = Filaires(reader).Size();
+    const auto samples = context.Measure({GettingAccessors(reader), GettingAccessors(*few)});
+    AddTime(context, "GetFilaireAccessor, " + std::to_string(bars) + " bars", samples[0],
+            double{kAccessors} * bars, "ns/bar", 10);
+    context.report.Add({"GetFilaireAccessor: many bars / a hundredth of them",
+                        Quotients(samples[0], samples[1]), kNoGoal, 1.2});
 }
 
 void MeasureCombinations(Context& context)
 {
-    const auto imported = [&context](int combinations) {
-        return Imported(context.files.Get({.elements = 1000, .combinations = combinations}).path);
+    const auto imported = [](int combinations) {
+        return Imported(ModelFile({.elements = 1000, .combinations = combinations}).Path());
     };
     const auto fewReader = imported(4000);
     const auto manyReader = imported(40000);
     const auto few = Combinaisons(*fewReader);
     const auto many = Combinaisons(*manyReader);
-    Register("few", ReadAll(few, few.Size()));
-    Register("many", ReadAll(many, many.Size()));
-    const Collector results(context.rounds);
-    Row row =
-        Ratio("combinations by rank, a call: 40000 / 4000", results.Of("many"), results.Of("few"));
-    row.measured *= static_cast<double>(few.Size()) / many.Size();
-    row.must = 1.5;
-    row.aim = 1.2;
-    context.report.Add(row);
+    const double share = static_cast<double>(few.Size()) / many.Size();
+    const auto samples = context.Measure({Reading(many, many.Size()), Reading(few, few.Size())});
+    context.report.Add({"combinations by rank, a call: 40000 / 4000",
+                        Scaled(Quotients(samples[0], samples[1]), share), 1.5, 1.2});
 }
 
 }  // namespace
 
 void MeasureAccessors(Context& context)
 {
-    MeasureRecords(context);
+    const auto reader = Imported(ModelFile({.elements = context.Large()}).Path());
+    MeasureRecords(context, *reader);
+    MeasureGetAccessor(context, *reader);
     MeasureCombinations(context);
 }
 

@@ -2,28 +2,26 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
-#include "generator.h"
 #include "report.h"
 #include "runner.h"
 
 namespace tamur::bench {
 
 struct Context {
-    ModelFiles& files;
-    Report& report;
-    bool isQuick;
-    int rounds;
+    bool isQuick = false;
+    Report report;
 
     // The sizes that the goals speak of, or smaller ones for a quick run.
     [[nodiscard]] std::uint64_t Large() const { return isQuick ? 100000 : 1000000; }
     [[nodiscard]] std::uint64_t Huge() const { return Large() * 5; }
     [[nodiscard]] std::uint64_t Small() const { return Large() / 10; }
-};
 
-// A row for the quotient of two medians.
-[[nodiscard]] Row Ratio(std::string what, const Samples& above, const Samples& below);
+    [[nodiscard]] std::vector<Samples> Measure(const std::vector<Subject>& subjects) const
+    {
+        return MeasureInTurns(subjects, isQuick ? Effort{5, 0.05} : Effort{7, 0.2});
+    }
+};
 
 // The groups. Each adds its rows to the report.
 void MeasureImport(Context& context);

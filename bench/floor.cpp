@@ -1,75 +1,55 @@
 #include "floor.h"
 
-#include <benchmark/benchmark.h>
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <charconv>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string_view>
+
+#include "runner.h"
 
 namespace tamur::bench {
 namespace {
 
 constexpr std::size_t kBlock = std::size_t{256} << 10;
 
-class Descriptor {
- public:
-    explicit Descriptor(const std::filesystem::path& path) : value_(open(path.c_str(), O_RDONLY))
-    {
-        if (value_ < 0) throw std::runtime_error("cannot read " + path.string());
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { close(value_); }
+using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
-    std::size_t Read(char* buffer, std::size_t size) const
-    {
-        const ssize_t got = read(value_, buffer, size);
-        return got > 0 ? static_cast<std::size_t>(got) : 0;
-    }
+// Without a buffer: blocks come straight from the system.
+File Open(const std::filesystem::path& path)
+{
+    File file(std::fopen(path.c_str(), "rb"), &std::fclose);
+    if (file == nullptr) throw std::runtime_error("cannot read " + path.string());
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return file;
+}
 
- private:
-    int value_;
-};
+// Where what is not counted goes: no kind of element is 0.
+constexpr std::size_t kOther = 0;
+constexpr std::size_t kElements = std::tuple_size_v<Counts>;
 
-enum class Section {
-    kOther,
-    kGroups,
-    kMaterials,
-    kSections,
-    kReleases,
-    kCases,
-    kParameters,
-    kElements
-};
-
-Section SectionOf(std::string_view header)
+std::size_t SectionOf(std::string_view header)
 {
     if (header.ends_with('\r')) header.remove_suffix(1);
-    if (header == "#Groupes") return Section::kGroups;
-    if (header == "#Materiaux") return Section::kMaterials;
-    if (header == "#Geometries") return Section::kSections;
-    if (header == "#Attaches") return Section::kReleases;
-    if (header == "#Cas") return Section::kCases;
-    if (header == "#TAB_PARAM_CAS") return Section::kParameters;
-    if (header == "#Elements") return Section::kElements;
-    return Section::kOther;
+    if (header == "#Elements") return kElements;
+    if (header == "#Materiaux") return kMaterials;
+    if (header == "#Geometries") return kSections;
+    return header == "#Attaches" ? kReleases : kOther;
 }
 
 class Floor {
  public:
-    void ReadLine(const char* begin, const char* end)
+    // Not inlined into the loop over the lines: that would slow both down.
+    [[gnu::noinline]] void ReadLine(const char* begin, const char* end)
     {
         if (begin == end) return;
         if (*begin == '#') {
-            section_ = SectionOf({begin, static_cast<std::size_t>(end - begin)});
+            section_ = SectionOf({begin, end});
             return;
         }
-        double first[2] = {};
-        int count = 0;
+        double first = 0;
+        bool isFirst = true;
         for (const char* at = begin;;) {
             while (at != end && (*at == ' ' || *at == '\r')) ++at;
             if (at == end) break;
@@ -77,42 +57,28 @@ class Floor {
             while (at != end && *at != ' ' && *at != '\r') ++at;
             double value = 0;
             std::from_chars(token, at, value);
-            if (count < 2) first[count] = value;
-            ++count;
+            if (isFirst) first = value;
+            isFirst = false;
             sum_ += value;
         }
-        if (count != 0) CountLine(static_cast<int>(first[0]), static_cast<int>(first[1]));
+        if (!isFirst) ++counts_[section_ == kElements ? KindOf(first) : section_];
     }
 
-    [[nodiscard]] const Counts& Result() const
+    [[nodiscard]] const Counts& Result()
     {
-        benchmark::DoNotOptimize(sum_);
+        Keep(sum_);
+        counts_[kOther] = 0;
         return counts_;
     }
 
  private:
-    void CountLine(int first, int second)
+    static std::size_t KindOf(double number)
     {
-        switch (section_) {
-            case Section::kElements:
-                if (first >= 1 && first <= 22) ++counts_.elements[static_cast<std::size_t>(first)];
-                break;
-            case Section::kGroups: ++counts_.groups; break;
-            case Section::kMaterials: ++counts_.materials; break;
-            case Section::kSections: ++counts_.sections; break;
-            case Section::kReleases: ++counts_.releases; break;
-            case Section::kCases: ++counts_.cases; break;
-            case Section::kParameters:
-                if (second == 2) ++counts_.combinations;
-                if (second == 4) ++counts_.seismicCases;
-                if (second == 9) ++counts_.envelopes;
-                break;
-            case Section::kOther: break;
-        }
+        return number >= 1 && number <= 22 ? static_cast<std::size_t>(number) : kOther;
     }
 
-    Section section_ = Section::kOther;
-    Counts counts_;
+    std::size_t section_ = kOther;
+    Counts counts_ = {};
     double sum_ = 0;  // so that no conversion can be left out
 };
 
@@ -120,12 +86,12 @@ class Floor {
 
 Counts ReadWithFloor(const std::filesystem::path& path)
 {
-    const Descriptor file(path);
+    const File file = Open(path);
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBlock);
     Floor floor;
     std::size_t kept = 0;
     for (;;) {
-        const std::size_t got = file.Read(buffer.get() + kept, kBlock - kept);
+        const std::size_t got = std::fread(buffer.get() + kept, 1, kBlock - kept, file.get());
         const char* const end = buffer.get() + kept + got;
         const char* line = buffer.get();
         while (line != end) {
@@ -145,9 +111,9 @@ Counts ReadWithFloor(const std::filesystem::path& path)
 
 void ReadBytes(const std::filesystem::path& path)
 {
-    const Descriptor file(path);
+    const File file = Open(path);
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBlock);
-    while (file.Read(buffer.get(), kBlock) != 0) benchmark::ClobberMemory();
+    while (std::fread(buffer.get(), 1, kBlock, file.get()) != 0) Keep(buffer);
 }
 
 }  // namespace tamur::bench

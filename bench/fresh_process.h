@@ -4,8 +4,6 @@
 
 #include <filesystem>
 
-#include "runner.h"
-
 namespace tamur::bench {
 
 struct FreshImport {
@@ -14,10 +12,10 @@ struct FreshImport {
     double peakBytes = 0;  // resident, above what the process had before the import
 };
 
-// Runs this program again, with the argument that MeasureInThisProcess serves.
+// Runs this program again, with the option that MeasureInThisProcess serves.
 [[nodiscard]] FreshImport ImportInFreshProcess(const std::filesystem::path& path);
 
-inline constexpr const char* kFreshProcessArgument = "--import-and-measure";
+inline constexpr const char* kFreshProcessOption = "--import-and-measure";
 
 // Prints what ImportInFreshProcess reads.
 void MeasureInThisProcess(const std::filesystem::path& path);

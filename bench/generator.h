@@ -3,9 +3,8 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <map>
-#include <string>
 
+#include "temporary_path.h"
 #include "text_writer.h"
 
 namespace tamur::bench {
@@ -19,38 +18,21 @@ struct ModelOptions {
     LineEnd lineEnd = LineEnd::kLf;
     NumberStyle numbers = NumberStyle::kShort;
     ElementsPlace place = ElementsPlace::kLast;
-    int cases = 100;
     int combinations = 500;
 };
 
-struct ModelFileInfo {
-    std::filesystem::path path;
-    std::uint64_t bytes = 0;
-    std::uint64_t lines = 0;
-};
-
-[[nodiscard]] ModelFileInfo WriteModel(const ModelOptions& options,
-                                       const std::filesystem::path& path);
-
-// A temporary folder with the files of one run: each is written when it is first asked for, and
-// all go at the end.
-class ModelFiles {
+// Written to a temporary file, which goes with the object.
+class ModelFile {
  public:
-    ModelFiles();
-    ModelFiles(const ModelFiles&) = delete;
-    ModelFiles& operator=(const ModelFiles&) = delete;
-    ~ModelFiles();
+    explicit ModelFile(const ModelOptions& options = {});
 
-    const ModelFileInfo& Get(const ModelOptions& options);
-
-    // Removes a file that is not needed any more.
-    void Drop(const ModelOptions& options);
-
-    [[nodiscard]] const std::filesystem::path& Folder() const { return folder_; }
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_.Get(); }
+    [[nodiscard]] double Bytes() const;
+    [[nodiscard]] double Lines() const { return static_cast<double>(lines_); }
 
  private:
-    std::filesystem::path folder_;
-    std::map<std::string, ModelFileInfo> files_;
+    TemporaryPath path_;
+    std::uint64_t lines_ = 0;
 };
 
 }  // namespace tamur::bench

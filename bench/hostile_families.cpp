@@ -19,11 +19,6 @@ std::string Number(int value)
     return std::to_string(value);
 }
 
-void AddNode(std::string& text, int identifier)
-{
-    Add(text, {"1", Number(identifier), "0 1 0 1.5 2.5 3.5 0 0 0 63"});
-}
-
 void AddBar(std::string& text, int identifier, const std::string& section)
 {
     Add(text, {"2", Number(identifier), "0 2 0 0 0 0 1 2 3 0 0 0 1 2 0 0 10 1", section, section,
@@ -46,13 +41,28 @@ void AddLongLine(std::string& text, std::string_view start, std::string_view pie
     text += '\n';
 }
 
-// --- cases and their parameters
+void AddLongElements(std::string& text, int count, std::string_view start, std::string_view piece)
+{
+    text += "#Elements\n";
+    for (int i = 0; i < count; ++i) AddLongLine(text, start, piece);
+}
+
+void AddCopies(std::string& text, int count, std::string_view piece)
+{
+    for (int i = 0; i < count; ++i) text += piece;
+}
+
+// A line for each number from `first` to `last`, with the same columns behind it.
+void AddNumbered(std::string& text, int first, int last, std::string_view columns)
+{
+    for (int i = first; i <= last; ++i) Add(text, {Number(i), columns});
+}
 
 void CombinationsThatNameEachOther(std::string& text, int size)
 {
     text += "#Cas\n";
-    for (int i = 1; i <= size; ++i) Add(text, {Number(i), "S 1 G 0"});
-    for (int i = 1; i <= size; ++i) Add(text, {Number(size + i), "C 2 ELU 0"});
+    AddNumbered(text, 1, size, "S 1 G 0");
+    AddNumbered(text, size + 1, 2 * size, "C 2 ELU 0");
     text += "#TAB_PARAM_CAS\n";
     for (int i = 1; i <= size; ++i) {
         Add(text,
@@ -63,7 +73,7 @@ void CombinationsThatNameEachOther(std::string& text, int size)
 void CombinationsThatDisableEachOther(std::string& text, int size)
 {
     text += "#Cas\n";
-    for (int i = 1; i <= size; ++i) Add(text, {Number(i), "C 2 ELU 0"});
+    AddNumbered(text, 1, size, "C 2 ELU 0");
     text += "#TAB_PARAM_CAS\n";
     for (int i = 1; i <= size; ++i) Add(text, {Number(i), "2", Number(i - 1), "1 32767 0"});
 }
@@ -71,23 +81,21 @@ void CombinationsThatDisableEachOther(std::string& text, int size)
 void OneCaseNumberManyTimes(std::string& text, int size)
 {
     text += "#Cas\n";
-    for (int i = 0; i < size; ++i) text += "7 C 2 ELU 0\n";
+    AddCopies(text, size, "7 C 2 ELU 0\n");
     text += "7 S 1 G 0\n#TAB_PARAM_CAS\n";
-    for (int i = 0; i < size; ++i) text += "7 2 7 1.0 32767 0\n";
+    AddCopies(text, size, "7 2 7 1.0 32767 0\n");
     text += "#Elements\n";
     for (int i = 0; i < size; ++i) AddGroupLoad(text, "8", "7", 1, "1");
 }
 
 void LongCombinations(std::string& text, int size)
 {
+    std::string line = "1 2 ";
+    for (int k = 5000; k > 1; --k) line += Number(k) + " 1 ";
     text += "#Cas\n1 C 2 ELU 0\n";
-    for (int i = 2; i <= 5000; ++i) Add(text, {Number(i), "S 1 G 0"});
+    AddNumbered(text, 2, 5000, "S 1 G 0");
     text += "#TAB_PARAM_CAS\n";
-    for (int i = 0; i < size; ++i) {
-        text += "1 2 ";
-        for (int k = 5000; k > 1; --k) text += Number(k) + " 1 ";
-        text += "32767 0\n";
-    }
+    AddCopies(text, size, line + "32767 0\n");
 }
 
 void ListsThatAnnounceMuch(std::string& text, int size)
@@ -95,8 +103,6 @@ void ListsThatAnnounceMuch(std::string& text, int size)
     text += "#Cas\n1 E 9 E 0\n#TAB_PARAM_CAS\n";
     for (int i = 0; i < size; ++i) AddLongLine(text, "1 9 0 0 0 0 0 0 0 0 0 N 49000 ", "x");
 }
-
-// --- loads that look for something
 
 void LoadsThatSearchGroups(std::string& text, int size)
 {
@@ -123,13 +129,11 @@ void LoadsRefusedOneByOne(std::string& text, int size)
 void LoadsOfManyCasesRefused(std::string& text, int size)
 {
     text += "#Cas\n";
-    for (int i = 1; i <= size; ++i) Add(text, {Number(i), "S 1 G 0"});
+    AddNumbered(text, 1, size, "S 1 G 0");
     text += "#Elements\n";
     for (int i = 1; i <= size; ++i) AddGroupLoad(text, "8", Number(i), 1, "1");
     for (int i = 1; i <= size; ++i) AddGroupLoad(text, "13", Number(i), 1, "1");
 }
-
-// --- elements
 
 void BarsWithOneHugeOutline(std::string& text, int size)
 {
@@ -142,78 +146,16 @@ void BarsWithOneHugeOutline(std::string& text, int size)
 void BarsOfAsManySections(std::string& text, int size)
 {
     text += "#Geometries\n";
-    for (int i = 1; i <= size; ++i) text += "T30*2*1*20*3 1 1 1 1 1 1 1 1 1 1 1 2 F 0 1 2 3 4\n";
+    AddCopies(text, size, "T30*2*1*20*3 1 1 1 1 1 1 1 1 1 1 1 2 F 0 1 2 3 4\n");
     text += "#Elements\n";
     for (int i = 1; i <= size; ++i) AddBar(text, i, Number(i));
-}
-
-void PolygonsThatAnnounceMuch(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "3 1 0 49000 0 ", "x");
-}
-
-void LabelsOfOneCharacter(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "1 1 0 1 24950 0 0 0", " \xE9");
-}
-
-void RealsOfManyDigits(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "1 1 0 1 0 0.", "49999999999999999");
-}
-
-// --- lines
-
-void LongLines(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "", "x");
-}
-
-void LongLinesOfBlanks(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "1", " ");
-}
-
-void OneLine(std::string& text, int size)
-{
-    text += "#Elements\n";
-    text.append(static_cast<std::size_t>(size), '1');
-}
-
-void EmptyLines(std::string& text, int size)
-{
-    text += "#Elements\n";
-    text.append(static_cast<std::size_t>(size), '\n');
-}
-
-void CarriageReturns(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) text += "\r\r\n";
-}
-
-void HeaderLines(std::string& text, int size)
-{
-    for (int i = 0; i < size; ++i) text += "#\n#Cas \n";
 }
 
 void OneHeaderManyTimes(std::string& text, int size)
 {
     for (int i = 1; i <= size; ++i) {
-        text += "#Elements\n";
-        AddNode(text, i);
+        Add(text, {"#Elements\n1", Number(i), "0 1 0 1.5 2.5 3.5 0 0 0 63"});
     }
-}
-
-void NumberSigns(std::string& text, int size)
-{
-    text += "#Elements\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, " ", "#");
 }
 
 }  // namespace
@@ -232,17 +174,37 @@ const std::vector<HostileFamily>& HostileFamilies()
         {"loads of many cases, refused", LoadsOfManyCasesRefused, 50000},
         {"one huge outline, many bars", BarsWithOneHugeOutline, 200000},
         {"as many sections as bars", BarsOfAsManySections, 50000},
-        {"polygons that announce more than they hold", PolygonsThatAnnounceMuch, 200},
-        {"labels of one character", LabelsOfOneCharacter, 300},
-        {"reals of many digits", RealsOfManyDigits, 500},
-        {"lines of the greatest length", LongLines, 2000},
-        {"long lines of blanks", LongLinesOfBlanks, 500},
-        {"one line without an end", OneLine, 50000000},
-        {"empty lines", EmptyLines, 5000000},
-        {"carriage returns", CarriageReturns, 1000000},
-        {"header lines", HeaderLines, 1000000},
+        {"polygons that announce more than they hold",
+         [](std::string& text, int size) { AddLongElements(text, size, "3 1 0 49000 0 ", "x"); },
+         200},
+        {"labels of one character",
+         [](std::string& text, int size) {
+             AddLongElements(text, size, "1 1 0 1 24950 0 0 0", " \xE9");
+         },
+         300},
+        {"reals of many digits",
+         [](std::string& text, int size) {
+             AddLongElements(text, size, "1 1 0 1 0 0.", "49999999999999999");
+         },
+         500},
+        {"lines of the greatest length",
+         [](std::string& text, int size) { AddLongElements(text, size, "", "x"); }, 2000},
+        {"long lines of blanks",
+         [](std::string& text, int size) { AddLongElements(text, size, "1", " "); }, 500},
+        {"one line without an end",
+         [](std::string& text, int size) { AddCopies(text += "#Elements\n", size, "1"); },
+         50000000},
+        {"empty lines",
+         [](std::string& text, int size) { AddCopies(text += "#Elements\n", size, "\n"); },
+         5000000},
+        {"carriage returns",
+         [](std::string& text, int size) { AddCopies(text += "#Elements\n", size, "\r\r\n"); },
+         1000000},
+        {"header lines", [](std::string& text, int size) { AddCopies(text, size, "#\n#Cas \n"); },
+         1000000},
         {"one header many times", OneHeaderManyTimes, 300000},
-        {"number signs", NumberSigns, 500},
+        {"number signs", [](std::string& text, int size) { AddLongElements(text, size, " ", "#"); },
+         500},
     };
     return families;
 }

@@ -1,8 +1,9 @@
-// Importing, beside the straightforward way and the floor.
+// Importing, beside the straightforward way and the floor, and what it does to memory.
 #include "component_subject.h"
 #include "context.h"
 #include "floor.h"
 #include "fresh_process.h"
+#include "generator.h"
 #include "straightforward.h"
 
 namespace tamur::bench {
@@ -19,68 +20,52 @@ double TimeFloor(const std::filesystem::path& path)
     return Timed([&] { (void)ReadWithFloor(path); });
 }
 
-double TimeRead(const std::filesystem::path& path)
-{
-    return Timed([&] { ReadBytes(path); });
-}
-
 void RequireSameCounts(const std::filesystem::path& path)
 {
     const Counts component = CountsOf(*Imported(path));
-    RequireSame(component, ReadWithFloor(path), "floor");
+    RequireSame(component, ReadWithFloor(path), "the floor");
     straightforward::Model model;
     straightforward::Import(model, path);
-    RequireSame(component, straightforward::CountsOf(model), "straightforward");
-}
-
-Row Throughput(std::string what, const Samples& samples, const ModelFileInfo& file)
-{
-    return {.what = std::move(what),
-            .measured = static_cast<double>(file.bytes) * 1e-6 / samples.Median(),
-            .unit = "MB/s",
-            .better = Better::kHigher,
-            .spread = samples.Spread()};
+    RequireSame(component, straightforward::CountsOf(model), "the straightforward import");
 }
 
 void MeasureShortNumbers(Context& context)
 {
-    const ModelFileInfo file = context.files.Get({.elements = context.Large()});
-    RequireSameCounts(file.path);
+    const ModelFile file({.elements = context.Large()});
+    const std::filesystem::path& path = file.Path();
+    RequireSameCounts(path);
     context.report.AddFact("elements", std::to_string(context.Large()));
-    context.report.AddFact("bytes", std::to_string(file.bytes));
-    const auto samples =
-        MeasureInterleaved({{"straightforward", [&] { return TimeStraightforward(file.path); }},
-                            {"component", [&] { return TimeImport(file.path); }},
-                            {"floor", [&] { return TimeFloor(file.path); }},
-                            {"read", [&] { return TimeRead(file.path); }}},
-                           context.rounds);
-    Row row = Ratio("import: straightforward / ours", samples[0], samples[1]);
-    row.better = Better::kHigher;
-    row.must = 11;
-    row.aim = 15;
-    context.report.Add(row);
-    row = Ratio("import: ours / floor", samples[1], samples[2]);
-    row.must = 0.85;
-    row.aim = 0.60;
-    context.report.Add(row);
-    context.report.Add(Throughput("throughput of the import", samples[1], file));
-    context.report.Add(Throughput("throughput of the floor", samples[2], file));
-    context.report.Add(Throughput("throughput of the read itself", samples[3], file));
+    context.report.AddFact("bytes", std::to_string(std::filesystem::file_size(path)));
+    const auto samples = context.Measure(
+        {[&] { return TimeStraightforward(path); }, [&] { return TimeImport(path); },
+         [&] { return TimeFloor(path); }, [&] { return Timed([&] { ReadBytes(path); }); }});
+    const auto addThroughput = [&](const char* what, const Samples& seconds) {
+        const Samples sizes(seconds.size(), file.Bytes() * 1e-6);
+        context.report.Add({.what = what,
+                            .samples = Quotients(sizes, seconds),
+                            .unit = "MB/s",
+                            .better = Better::kHigher});
+    };
+    context.report.Add({.what = "import: straightforward / ours",
+                        .samples = Quotients(samples[0], samples[1]),
+                        .must = 11,
+                        .aim = 15,
+                        .better = Better::kHigher});
+    context.report.Add({"import: ours / floor", Quotients(samples[1], samples[2]), 0.85, 0.60});
+    addThroughput("throughput of the import", samples[1]);
+    addThroughput("throughput of the floor", samples[2]);
+    addThroughput("throughput of the read itself", samples[3]);
 }
 
 void MeasureFullNumbers(Context& context)
 {
-    const ModelOptions options = {.elements = context.Large(), .numbers = NumberStyle::kFull};
-    const ModelFileInfo file = context.files.Get(options);
-    RequireSameCounts(file.path);
-    const auto samples = MeasureInterleaved({{"component", [&] { return TimeImport(file.path); }},
-                                             {"floor", [&] { return TimeFloor(file.path); }}},
-                                            context.rounds);
-    Row row = Ratio("17 digits and exponents: ours / floor", samples[0], samples[1]);
-    row.must = 1.3;
-    row.aim = 1.0;
-    context.report.Add(row);
-    context.files.Drop(options);
+    const ModelFile file({.elements = context.Large(), .numbers = NumberStyle::kFull});
+    const std::filesystem::path& path = file.Path();
+    RequireSameCounts(path);
+    const auto samples =
+        context.Measure({[&] { return TimeImport(path); }, [&] { return TimeFloor(path); }});
+    context.report.Add(
+        {"17 digits and exponents: ours / floor", Quotients(samples[0], samples[1]), 1.3, 1.0});
 }
 
 }  // namespace
@@ -93,27 +78,30 @@ void MeasureImport(Context& context)
 
 void MeasureMemory(Context& context)
 {
-    const ModelFileInfo file = context.files.Get({.elements = context.Large()});
-    const double fileBytes = static_cast<double>(file.bytes);
+    const ModelFile file({.elements = context.Large()});
+    const ModelFile small({.elements = context.Small()});
+    const double fileBytes = file.Bytes();
     constexpr double kMebibyte = 1024 * 1024;
-    Samples peaks, imports, releases, floors;
-    for (int i = 0; i < context.rounds; ++i) {
-        const FreshImport import = ImportInFreshProcess(file.path);
-        peaks.Add(import.peakBytes / fileBytes);
-        imports.Add(import.importSeconds);
-        releases.Add(import.releaseSeconds);
-        floors.Add(TimeFloor(file.path));
-    }
-    context.report.Add({.what = "peak memory after import / file",
-                        .measured = peaks.Median(),
-                        .must = 1.3 + 16 * kMebibyte / fileBytes,
-                        .aim = 1.0 + 4 * kMebibyte / fileBytes,
-                        .spread = peaks.Spread()});
-    context.report.Add(Ratio("import into memory never touched: ours / floor", imports, floors));
-    Row row = Ratio("releasing the reader / importing", releases, imports);
-    row.must = 0.15;
-    row.aim = 0.07;
-    context.report.Add(row);
+    Samples peaks, releases;
+    const auto importFresh = [&] {
+        const FreshImport import = ImportInFreshProcess(file.Path());
+        peaks.push_back(import.peakBytes / fileBytes);
+        releases.push_back(import.releaseSeconds / import.importSeconds);
+        return import.importSeconds;
+    };
+    const auto samples =
+        context.Measure({importFresh, [&] { return TimeImport(file.Path()); },
+                         [&] { return TimeFloor(file.Path()); },
+                         [&] { return ImportInFreshProcess(small.Path()).importSeconds; },
+                         [&] { return TimeImport(small.Path()); }});
+    context.report.Add({"peak memory after import / file", peaks, 1.3 + 16 * kMebibyte / fileBytes,
+                        1.0 + 4 * kMebibyte / fileBytes});
+    context.report.Add(
+        {"import into memory never touched: ours / floor", Quotients(samples[0], samples[2])});
+    context.report.Add({"first import of a process / one in memory touched before",
+                        Quotients(samples[0], samples[1])});
+    context.report.Add({"the same, a tenth of the size", Quotients(samples[3], samples[4])});
+    context.report.Add({"releasing the reader / importing", releases, 0.15, 0.07});
 }
 
 }  // namespace tamur::bench

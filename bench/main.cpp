@@ -1,14 +1,11 @@
-// tamur_bench [--quick] [--json=PATH] [--only=GROUP,...]
-//
-// Groups: import, memory, accessors, scaling, hostile, threads. Ends with 1 when a result is
-// worse than it must be.
+// Measures the component; ends with 1 when a result is worse than it must be.
+#include <CLI/CLI.hpp>
 #include <malloc.h>
 
-#include <cstdio>
-#include <exception>
+#include <algorithm>
 #include <limits>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "context.h"
 #include "fresh_process.h"
@@ -17,39 +14,14 @@ namespace tamur::bench {
 namespace {
 
 struct Group {
-    const char* name;
+    std::string name;
     void (*measure)(Context&);
 };
 
-constexpr Group kGroups[] = {
+const Group kGroups[] = {
     {"import", MeasureImport},   {"memory", MeasureMemory},        {"accessors", MeasureAccessors},
     {"scaling", MeasureScaling}, {"hostile", MeasureHostileFiles}, {"threads", MeasureThreads},
 };
-
-struct Arguments {
-    bool isQuick = false;
-    std::string json;
-    std::string only;
-};
-
-// False when one is unknown.
-bool Parse(int count, char** arguments, Arguments& parsed)
-{
-    for (int i = 1; i < count; ++i) {
-        const std::string_view argument = arguments[i];
-        if (argument == "--quick") {
-            parsed.isQuick = true;
-        } else if (argument.starts_with("--json=")) {
-            parsed.json = argument.substr(7);
-        } else if (argument.starts_with("--only=")) {
-            parsed.only = "," + std::string(argument.substr(7)) + ",";
-        } else {
-            std::fprintf(stderr, "usage: tamur_bench [--quick] [--json=PATH] [--only=GROUP,...]\n");
-            return false;
-        }
-    }
-    return true;
-}
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory
 // for the first time, whatever they are subjects of.
@@ -59,25 +31,47 @@ void KeepFreedMemory()
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
 }
 
-int Run(const Arguments& arguments)
+// An empty `only` takes all groups.
+void Measure(Context& context, const std::vector<std::string>& only)
 {
     KeepFreedMemory();
-    const double start = ClockSeconds();
-    ModelFiles files;
-    Report report;
-    report.AddFact("compiler", __VERSION__);
-    report.AddFact("mode", arguments.isQuick ? "quick" : "full");
-    Context context = {files, report, arguments.isQuick, arguments.isQuick ? 5 : 7};
-    for (const Group& group : kGroups) {
-        const std::string name = "," + std::string(group.name) + ",";
-        if (!arguments.only.empty() && arguments.only.find(name) == std::string::npos) continue;
-        std::fprintf(stderr, "%s\n", group.name);
-        group.measure(context);
+    context.report.AddFact("compiler", __VERSION__);
+    context.report.AddFact("mode", context.isQuick ? "quick" : "full");
+    const double seconds = Timed(
+        [&] {
+            for (const Group& group : kGroups) {
+                if (!only.empty() && std::ranges::count(only, group.name) == 0) continue;
+                std::fprintf(stderr, "%s\n", group.name.c_str());
+                group.measure(context);
+            }
+        },
+        ClockSeconds);
+    context.report.AddFact("seconds", std::to_string(seconds));
+}
+
+int Run(int count, char** arguments)
+{
+    Context context;
+    std::string json, imported;
+    std::vector<std::string> only, names;
+    for (const Group& group : kGroups) names.push_back(group.name);
+    CLI::App app("Measures TAMUR Reader.", "tamur_bench");
+    app.add_flag("--quick", context.isQuick, "smaller files and fewer rounds");
+    app.add_option("--json", json, "writes the results to this file, too")->type_name("FILE");
+    app.add_option("--only", only, "takes these groups")
+        ->delimiter(',')
+        ->check(CLI::IsMember(names));
+    // An empty group hides it from the help: the program calls itself with it.
+    app.add_option(kFreshProcessOption, imported)->group("");
+    CLI11_PARSE(app, count, arguments);
+    if (!imported.empty()) {
+        MeasureInThisProcess(imported);
+        return 0;
     }
-    report.AddFact("seconds", std::to_string(ClockSeconds() - start));
-    report.Print();
-    if (!arguments.json.empty()) report.WriteJson(arguments.json);
-    return report.IsGood() ? 0 : 1;
+    Measure(context, only);
+    context.report.Print();
+    if (!json.empty()) context.report.WriteJson(json);
+    return context.report.IsGood() ? 0 : 1;
 }
 
 }  // namespace
@@ -85,14 +79,8 @@ int Run(const Arguments& arguments)
 
 int main(int count, char** arguments)
 {
-    using namespace tamur::bench;
     try {
-        if (count == 3 && std::string_view(arguments[1]) == kFreshProcessArgument) {
-            MeasureInThisProcess(arguments[2]);
-            return 0;
-        }
-        Arguments parsed;
-        return Parse(count, arguments, parsed) ? Run(parsed) : 2;
+        return tamur::bench::Run(count, arguments);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tamur_bench: %s\n", error.what());
         return 2;

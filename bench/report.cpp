@@ -1,58 +1,54 @@
 #include "report.h"
 
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
-#include <memory>
+#include <fstream>
 #include <stdexcept>
-#include <utility>
 
 namespace tamur::bench {
 namespace {
 
-bool Keeps(const Row& row, const std::optional<double>& limit)
+bool Misses(const Row& row, double goal)
 {
-    if (!limit.has_value()) return true;
-    return row.better == Better::kLower ? row.measured <= *limit : row.measured >= *limit;
+    const double measured = Median(row.samples);
+    return row.better == Better::kLower ? measured > goal : measured < goal;
 }
 
 const char* VerdictOn(const Row& row)
 {
-    if (!row.must.has_value() && !row.aim.has_value()) return "";
-    if (!Keeps(row, row.must)) return "MISSED";
-    return Keeps(row, row.aim) ? "aim" : "must";
+    if (Misses(row, row.must)) return "MISSED";
+    if (Misses(row, row.aim)) return "must";
+    return std::isnan(row.must) && std::isnan(row.aim) ? "" : "aim";
 }
 
-std::string Format(const std::optional<double>& value)
+std::string Goal(double goal)
 {
-    if (!value.has_value()) return "-";
-    char text[32];
-    std::snprintf(text, sizeof text, "%.3g", *value);
+    char text[32] = "-";
+    if (!std::isnan(goal)) std::snprintf(text, sizeof text, "%.3g", goal);
     return text;
-}
-
-std::string JsonNumber(const std::optional<double>& value)
-{
-    if (!value.has_value()) return "null";
-    char text[32];
-    std::snprintf(text, sizeof text, "%.6g", *value);
-    return text;
-}
-
-// Texts here are plain; only quotes and backslashes need care.
-std::string JsonText(const std::string& text)
-{
-    std::string out = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') out += '\\';
-        out += c;
-    }
-    return out + '"';
 }
 
 void PrintRow(const Row& row)
 {
-    std::printf("%-62s %9.4g %-9s %7s %7s  %-6s  +-%.1f %%\n", row.what.c_str(), row.measured,
-                row.unit.c_str(), Format(row.must).c_str(), Format(row.aim).c_str(), VerdictOn(row),
-                row.spread * 50);
+    std::printf("%-62s %9.4g %-9s %7s %7s  %-6s  +-%.1f %%\n", row.what.c_str(),
+                Median(row.samples), row.unit.c_str(), Goal(row.must).c_str(),
+                Goal(row.aim).c_str(), VerdictOn(row), Spread(row.samples) * 50);
+}
+
+// What is no number becomes null.
+nlohmann::ordered_json Json(const Row& row)
+{
+    return {{"what", row.what},
+            {"measured", Median(row.samples)},
+            {"unit", row.unit},
+            {"must", row.must},
+            {"aim", row.aim},
+            {"better", row.better == Better::kLower ? "lower" : "higher"},
+            {"spread", Spread(row.samples)},
+            {"verdict", VerdictOn(row)}};
 }
 
 }  // namespace
@@ -60,7 +56,8 @@ void PrintRow(const Row& row)
 void Report::Add(Row row)
 {
     // The run takes minutes: tell what is known.
-    std::fprintf(stderr, "  %s: %.4g %s\n", row.what.c_str(), row.measured, row.unit.c_str());
+    std::fprintf(stderr, "  %s: %.4g %s\n", row.what.c_str(), Median(row.samples),
+                 row.unit.c_str());
     rows_.push_back(std::move(row));
 }
 
@@ -78,34 +75,17 @@ void Report::Print() const
 
 void Report::WriteJson(const std::string& path) const
 {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "w"),
-                                                               &std::fclose);
-    if (file == nullptr) throw std::runtime_error("cannot write " + path);
-    std::fprintf(file.get(), "{\n");
-    for (const auto& [name, value] : facts_) {
-        std::fprintf(file.get(), "  %s: %s,\n", JsonText(name).c_str(), JsonText(value).c_str());
-    }
-    std::fprintf(file.get(), "  \"rows\": [");
-    const char* separator = "";
-    for (const Row& row : rows_) {
-        std::fprintf(file.get(),
-                     "%s\n    {\"what\": %s, \"measured\": %s, \"unit\": %s, \"must\": %s, "
-                     "\"aim\": %s, \"better\": \"%s\", \"spread\": %s, \"verdict\": \"%s\"}",
-                     separator, JsonText(row.what).c_str(), JsonNumber(row.measured).c_str(),
-                     JsonText(row.unit).c_str(), JsonNumber(row.must).c_str(),
-                     JsonNumber(row.aim).c_str(), row.better == Better::kLower ? "lower" : "higher",
-                     JsonNumber(row.spread).c_str(), VerdictOn(row));
-        separator = ",";
-    }
-    std::fprintf(file.get(), "\n  ]\n}\n");
+    nlohmann::ordered_json json;
+    for (const auto& [name, value] : facts_) json[name] = value;
+    for (const Row& row : rows_) json["rows"].push_back(Json(row));
+    std::ofstream file(path);
+    if (!(file << json.dump(2) << std::endl)) throw std::runtime_error("cannot write " + path);
 }
 
 bool Report::IsGood() const
 {
-    for (const Row& row : rows_) {
-        if (!Keeps(row, row.must)) return false;
-    }
-    return true;
+    return std::none_of(rows_.begin(), rows_.end(),
+                        [](const Row& row) { return Misses(row, row.must); });
 }
 
 }  // namespace tamur::bench

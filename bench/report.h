@@ -1,22 +1,27 @@
 // The results of a run: one table for people, JSON for programs.
 #pragma once
 
-#include <optional>
+#include <limits>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "runner.h"
 
 namespace tamur::bench {
 
 enum class Better { kLower, kHigher };
 
+// Every comparison with it is false.
+inline constexpr double kNoGoal = std::numeric_limits<double>::quiet_NaN();
+
 struct Row {
     std::string what;
-    double measured = 0;
+    Samples samples;  // the figure is their median
+    double must = kNoGoal;
+    double aim = kNoGoal;
     std::string unit = "x";
-    std::optional<double> must = std::nullopt;
-    std::optional<double> aim = std::nullopt;
     Better better = Better::kLower;
-    double spread = 0;  // relative; of the noisier side of a ratio
 };
 
 class Report {

@@ -2,36 +2,15 @@
 // usage: tamur_bench_windows FILE
 #include <tamur/component.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <vector>
 
+#include "runner.h"
 #include "straightforward.h"
-
-namespace {
-
-constexpr int kRounds = 7;
-
-template <class Work>
-double Seconds(Work work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-}  // namespace
 
 int main(int count, char** arguments)
 {
+    using namespace tamur::bench;
     if (count != 2) {
         (void)std::fprintf(stderr, "usage: tamur_bench_windows FILE\n");
         return 2;
@@ -39,17 +18,18 @@ int main(int count, char** arguments)
     const std::filesystem::path file(arguments[1]);
     const tamur::Component component(TAMUR_COMPONENT_PATH);
     const tamur::String name(file.c_str());
-    std::vector<double> ours, straightforward;
-    for (int round = 0; round < kRounds; ++round) {
-        ours.push_back(
-            Seconds([&] { tamur::Check(component.CreateReader()->Import(name.Get()), "Import"); }));
-        straightforward.push_back(Seconds([&] {
-            tamur::bench::straightforward::Model model;
-            tamur::bench::straightforward::Import(model, file);
-        }));
-    }
-    std::printf("medians of %d: ours %.1f ms, straightforward %.1f ms, ratio %.2f\n", kRounds,
-                Median(ours) * 1e3, Median(straightforward) * 1e3,
-                Median(straightforward) / Median(ours));
+    const auto import = [&] {
+        tamur::Check(component.CreateReader()->Import(name.Get()), "Import");
+    };
+    const auto importStraightforwardly = [&] {
+        straightforward::Model model;
+        straightforward::Import(model, file);
+    };
+    const auto samples =
+        MeasureInTurns({[&] { return Timed(import, ClockSeconds); },
+                        [&] { return Timed(importStraightforwardly, ClockSeconds); }},
+                       {.rounds = 7, .seconds = 0});
+    std::printf("ours %.1f ms, straightforward %.1f ms, ratio %.2f\n", Median(samples[0]) * 1e3,
+                Median(samples[1]) * 1e3, Median(Quotients(samples[1], samples[0])));
     return 0;
 }
