@@ -10,7 +10,7 @@ class Field:
     type: str              # as in the contract: "unsigned char", "BSTR", a record, ...
     is_pointer: bool
     name: str
-    count: Optional[str]   # number of the values that a pointer leads to, in the record's other fields
+    count: Optional[str]   # of the values that a pointer leads to, in the record's other fields
     length: Optional[int]  # of an array inside the record
 
 
@@ -95,7 +95,6 @@ class Contract:
             if base.name == interface.base:
                 return self.inherited(base) + base.methods
         return []
-
 
     def accessors(self) -> list[Accessor]:
         """In the order of the reader's methods."""

@@ -34,7 +34,8 @@ def methods(one: Table) -> str:
     {{
         return Count<{one.record}>(count);
     }}
-    HRESULT STDMETHODCALLTYPE {one.at_rank}(LONG rank, {one.record}* record) noexcept override
+    HRESULT STDMETHODCALLTYPE {one.at_rank}(LONG rank,
+                                            {one.record}* record) noexcept override
     {{
         return AtRank(rank, record);
     }}"""
@@ -49,7 +50,8 @@ def accessor_class(one: Accessor) -> str:
 
 
 def getter(one: Accessor) -> str:
-    return f"""    HRESULT STDMETHODCALLTYPE {one.getter}({one.interface.name}** out) noexcept override
+    interface = one.interface.name
+    return f"""    HRESULT STDMETHODCALLTYPE {one.getter}({interface}** out) noexcept override
     {{
         return Make<C{one.stem}>(out);
     }}

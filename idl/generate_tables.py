@@ -48,12 +48,12 @@ def main() -> None:
     parts += [table(owner, one) for owner in accessors for one in owner.tables]
     visits = "\n".join(f"    visit(TableOf<{one.record}>());"
                        for owner in accessors for one in owner.tables)
-    parts.append("// Calls visit(TableOf<record>()) for every table, in the order of the contract.\n"
+    parts.append("// Calls visit(TableOf<record>()) for every table, in the contract's order.\n"
                  "template <class Visit>\n"
                  "void ForEachTableType(Visit&& visit)\n"
                  "{\n" + visits + "\n}\n")
     visits = "\n".join(accessor(one) for one in accessors)
-    parts.append("// Calls visit(name, interface identifier, method of the reader) for every accessor.\n"
+    parts.append("// Calls visit(name, interface identifier, reader's method) for every accessor.\n"
                  "template <class Visit>\n"
                  "void ForEachAccessor(Visit&& visit)\n"
                  "{\n" + visits + "\n}\n")
