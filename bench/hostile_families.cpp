@@ -101,7 +101,7 @@ void LongCombinations(std::string& text, int size)
 void ListsThatAnnounceMuch(std::string& text, int size)
 {
     text += "#Cas\n1 E 9 E 0\n#TAB_PARAM_CAS\n";
-    for (int i = 0; i < size; ++i) AddLongLine(text, "1 9 0 0 0 0 0 0 0 0 0 N 49000 ", "x");
+    for (int i = 0; i < size; ++i) AddLongLine(text, "1 9 0 0 0 0 0 0 0 0 0 N 49000", " 7");
 }
 
 void LoadsThatSearchGroups(std::string& text, int size)

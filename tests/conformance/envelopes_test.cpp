@@ -90,6 +90,15 @@ TEST(Envelopes, CountBeyondTheLineIsKeptAndTheMissingCasesAreZero)
     EXPECT_EQ(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 40")), std::vector<int>(40, 0));
 }
 
+// Nothing takes less room in a line than numbers that need no blank between them.
+TEST(Envelopes, CasesMayBeGluedTogether)
+{
+    EXPECT_THAT(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 3 1-2+3")), ElementsAre(1, -2, 3));
+    std::string line = "12 9 1 2 3 4 5 6 7 8 9 O 20000 1";
+    for (int i = 1; i < 20000; ++i) line += "+1";
+    EXPECT_EQ(CasesOf(EnvelopeOf(line)), std::vector<int>(20000, 1));
+}
+
 TEST(Envelopes, CasesThatTheLineDoesNotHoldAreZero)
 {
     EXPECT_THAT(CasesOf(EnvelopeOf("12 9 1 2 3 4 5 6 7 8 9 O 4 7 8")), ElementsAre(7, 8, 0, 0));

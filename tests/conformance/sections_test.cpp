@@ -237,6 +237,8 @@ TEST(SectionOutline, CodeMayBeGluedToItsNeighbours)
     ExpectOutline("2S0 0 1 0 5 6", {'S', 2, {0, 0, 5, 1, 0, 6}, 0});
     ExpectOutline("0C0.25", {'C', 0, {}, 0.25});
     ExpectOutline("1 CF 1 2 0.5", {'C', 1, {0, 0}, 0});
+    ExpectOutline("3 P.1.2.3.4.5.6", {'P', 3, {0.1, 0.2, 0.3, 0.4, 0.5, 0.6}, 0});
+    ExpectOutline("2 S1-2+3.4.5-6", {'S', 2, {1, -2, -6, 3.4, 0.5, 0}, 0});
 }
 
 TEST(SectionOutline, AnyCharacterServesAsTheCode)

@@ -19,6 +19,13 @@ namespace tamur {
     return read > kLargestCount ? 0 : read;
 }
 
+// The most values that so many characters hold: each but the first takes two, one of them a blank,
+// a sign or a point.
+constexpr std::size_t MostValues(std::size_t characters)
+{
+    return (characters + 1) / 2;
+}
+
 // The next values of the line, `count` of them or as many as it holds. Takes memory only for those.
 template <class T>
 [[nodiscard]] List<T> ReadList(StreamScanner& tokens, std::int32_t count, Arena& arena)
@@ -26,7 +33,7 @@ template <class T>
     List<T> list;
     list.count = count;
     if (count <= 0) return list;
-    const std::size_t most = std::min(static_cast<std::size_t>(count), tokens.Left());
+    const std::size_t most = std::min(static_cast<std::size_t>(count), MostValues(tokens.Left()));
     T* const values = reinterpret_cast<T*>(arena.Reserve(most * sizeof(T)));
     for (; list.held < count; ++list.held) {
         T value = {};

@@ -17,7 +17,8 @@ List<double> ReadCoordinates(StreamScanner& tokens, const Outline& outline, Aren
     if (outline.pointCount <= 0) return list;
     const std::int32_t stride = outline.Stride();
     list.count = outline.pointCount * stride;
-    const std::size_t most = std::min(static_cast<std::size_t>(outline.pointCount), tokens.Left());
+    const std::size_t most =
+        std::min(static_cast<std::size_t>(outline.pointCount), MostValues(tokens.Left()));
     double* const values = reinterpret_cast<double*>(
         arena.Reserve(most * static_cast<std::size_t>(stride) * sizeof(double)));
     double* end = values;
