@@ -1,5 +1,5 @@
 // Twice the size must not take more than twice the time, whatever the file holds.
-#include "hostile_families.h"
+#include "models/hostile_families.h"
 
 #include <fstream>
 #include <stdexcept>

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "mutation/seeds.h"
-#include "support/line_generator.h"
+#include "models/seeds.h"
+#include "models/line_generator.h"
 
 namespace tamur::test {
 namespace {
@@ -45,7 +45,7 @@ std::string_view LinesBehind(std::string_view text, std::string_view header)
 
 void WriteModels(const std::filesystem::path& folder)
 {
-    const std::vector<Seed> seeds = MutationSeeds();
+    const std::vector<Seed> seeds = Seeds();
     SeedFolder models(folder / "whole_file");
     SeedFolder pairs(folder / "two_files");
     SeedFolder elements(folder / "element_line");

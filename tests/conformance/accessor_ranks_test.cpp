@@ -4,7 +4,7 @@
 #include <cstring>
 #include <limits>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 
 namespace tamur::test {
 namespace {

@@ -1,7 +1,7 @@
 // What accessors with records of their own still serve when their reader has gone.
 #include <gtest/gtest.h>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 namespace {

@@ -1,7 +1,7 @@
 // The bars accessor serves the bars as they were when it was made.
 #include <gmock/gmock.h>
 
-#include "support/one_of_each.h"
+#include "models/one_of_each.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -2,7 +2,7 @@
 // and releases.
 #include <gmock/gmock.h>
 
-#include "support/bar_models.h"
+#include "models/bar_models.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

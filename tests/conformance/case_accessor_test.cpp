@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "conformance/load_model.h"
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <typeinfo>
 
-#include "support/one_of_each.h"
+#include "models/one_of_each.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

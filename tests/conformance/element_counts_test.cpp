@@ -1,7 +1,7 @@
 // The announced numbers of points and labels, and what becomes of those that cannot be meant.
 #include <gmock/gmock.h>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -1,7 +1,7 @@
 // Every column of every kind lands in its field; bars and walls have tests of their own.
 #include <gmock/gmock.h>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

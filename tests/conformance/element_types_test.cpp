@@ -2,7 +2,7 @@
 // of groups.
 #include <gmock/gmock.h>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "conformance/accessor_kinds.h"
+#include "support/accessor_kinds.h"
 #include "conformance/class_objects.h"
 
 namespace tamur::test {

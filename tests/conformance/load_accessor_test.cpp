@@ -5,7 +5,7 @@
 #include <cstring>
 #include <limits>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 #include "conformance/load_model.h"
 #include "support/record_values.h"
 

@@ -2,7 +2,7 @@
 // element type, which stay the caller's.
 #include <gtest/gtest.h>
 
-#include "support/load_case_models.h"
+#include "models/load_case_models.h"
 
 namespace tamur::test {
 namespace {

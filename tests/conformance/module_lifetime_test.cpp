@@ -7,7 +7,7 @@
 #include <malloc.h>
 #endif
 
-#include "conformance/accessor_kinds.h"
+#include "support/accessor_kinds.h"
 #include "conformance/class_objects.h"
 
 namespace tamur::test {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "conformance/accessor_kinds.h"
+#include "support/accessor_kinds.h"
 #include "conformance/class_objects.h"
 
 namespace tamur::test {

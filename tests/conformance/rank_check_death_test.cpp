@@ -4,7 +4,7 @@
 
 #include <climits>
 
-#include "support/one_of_each.h"
+#include "models/one_of_each.h"
 
 namespace tamur::test {
 namespace {

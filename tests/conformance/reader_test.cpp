@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "conformance/accessor_kinds.h"
-#include "conformance/every_table.h"
+#include "support/accessor_kinds.h"
+#include "models/every_table.h"
 #include "conformance/load_model.h"
 #include "support/message_boxes.h"
 #include "support/open_files.h"

@@ -2,7 +2,7 @@
 // models, and of two imports into one reader.
 #include <gmock/gmock.h>
 
-#include "support/load_case_models.h"
+#include "models/load_case_models.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

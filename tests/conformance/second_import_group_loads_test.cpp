@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "conformance/load_model.h"
-#include "support/load_case_models.h"
+#include "models/load_case_models.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -3,7 +3,7 @@
 // for both.
 #include <gmock/gmock.h>
 
-#include "support/load_case_models.h"
+#include "models/load_case_models.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

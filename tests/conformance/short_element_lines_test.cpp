@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/bar_models.h"
-#include "support/element_lines.h"
+#include "models/bar_models.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 namespace {

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <thread>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 #include "support/read_everything.h"
 
 namespace tamur::test {

@@ -1,8 +1,8 @@
 // Methods called by nothing but their published slot do what their name says.
 #include <gtest/gtest.h>
 
-#include "conformance/accessor_kinds.h"
-#include "support/element_lines.h"
+#include "support/accessor_kinds.h"
+#include "models/element_lines.h"
 #include "support/published/slots.h"
 
 namespace tamur::test {

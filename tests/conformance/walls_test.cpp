@@ -1,7 +1,7 @@
 // Walls (kind 20): their columns, the switches, and the two scales of wind types.
 #include <gmock/gmock.h>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 #include "conformance/load_model.h"
 
 namespace tamur::test {

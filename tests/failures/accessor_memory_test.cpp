@@ -4,10 +4,10 @@
 
 #include <cstring>
 
-#include "conformance/accessor_kinds.h"
-#include "conformance/every_table.h"
-#include "failures/memory_watch.h"
-#include "failures/quiet_boxes.h"
+#include "support/accessor_kinds.h"
+#include "models/every_table.h"
+#include "linked/memory_watch.h"
+#include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
 #include "platform/platform.h"
 #include "server/reader_app.h"
@@ -101,7 +101,7 @@ void ForEachModel(Visit&& visit)
         SCOPED_TRACE("every table");
         visit(*Imported(EveryTable()));
     }
-    for (const Seed& seed : MutationSeeds()) {
+    for (const Seed& seed : Seeds()) {
         SCOPED_TRACE(seed.name);
         const auto reader = NewReader();
         (void)ImportText(*reader, seed.text);

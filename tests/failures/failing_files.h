@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "failures/memory_watch.h"
+#include "linked/memory_watch.h"
 
 namespace tamur::test {
 

@@ -7,7 +7,7 @@
 #include <cstdarg>
 
 #include "failures/file_call_counts.h"
-#include "failures/stand_in.h"
+#include "linked/stand_in.h"
 
 using namespace tamur::test;
 

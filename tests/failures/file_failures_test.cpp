@@ -1,9 +1,9 @@
 // Files that fail while they are read: to the import they look as if they ended there.
 #include <gtest/gtest.h>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 #include "failures/failing_files.h"
-#include "failures/quiet_boxes.h"
+#include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
 
 namespace tamur::test {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "TAMURReader.h"
-#include "failures/memory_watch.h"
+#include "linked/memory_watch.h"
 #include "platform/platform.h"
 
 STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv);

@@ -2,8 +2,8 @@
 // the next reader works.
 #include <gtest/gtest.h>
 
-#include "failures/memory_watch.h"
-#include "failures/quiet_boxes.h"
+#include "linked/memory_watch.h"
+#include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
 
 namespace tamur::test {

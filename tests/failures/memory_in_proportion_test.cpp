@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
-#include "conformance/every_table.h"
-#include "failures/memory_limit.h"
-#include "failures/quiet_boxes.h"
-#include "hostile_families.h"
+#include "models/every_table.h"
+#include "linked/memory_limit.h"
+#include "linked/quiet_boxes.h"
+#include "models/hostile_families.h"
 
 namespace tamur::test {
 namespace {

@@ -1,8 +1,8 @@
 // What an accessor that is a copy keeps when its reader has gone: what it serves and nothing else.
 #include <gtest/gtest.h>
 
-#include "conformance/every_table.h"
-#include "failures/memory_watch.h"
+#include "models/every_table.h"
+#include "linked/memory_watch.h"
 #include "support/record_values.h"
 
 #if defined(__has_feature)

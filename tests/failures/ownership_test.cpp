@@ -6,9 +6,9 @@
 #include <random>
 #include <utility>
 
-#include "conformance/every_table.h"
-#include "failures/ownership_ledger.h"
-#include "failures/quiet_boxes.h"
+#include "models/every_table.h"
+#include "linked/ownership_ledger.h"
+#include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
 
 namespace tamur::test {
@@ -145,7 +145,7 @@ TEST(Ownership, EverythingHandedOutIsFreedOnceByTheFunctionOfItsKind)
     const QuietBoxes boxes;
     std::uint64_t made = LetAHostRead(EveryTable().Text(), 1);
     unsigned number = 2;
-    for (const Seed& seed : MutationSeeds()) {
+    for (const Seed& seed : Seeds()) {
         SCOPED_TRACE(seed.name);
         made += LetAHostRead(seed.text, number++);
     }

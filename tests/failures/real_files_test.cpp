@@ -4,9 +4,9 @@
 
 #include <fstream>
 
-#include "conformance/every_table.h"
+#include "models/every_table.h"
 #include "failures/failing_files.h"
-#include "failures/quiet_boxes.h"
+#include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
 
 #ifndef _WIN32

@@ -1,7 +1,7 @@
 // Memory that runs out while the component is registered. Windows only.
 #include <gtest/gtest.h>
 
-#include "failures/memory_watch.h"
+#include "linked/memory_watch.h"
 #include "platform/platform.h"
 #include "server/registration.h"
 

@@ -1,7 +1,7 @@
 // The models that failures are tried on, as files.
 #pragma once
 
-#include "mutation/seeds.h"
+#include "models/seeds.h"
 #include "support/model_text.h"
 #include "support/read_everything.h"
 
@@ -16,7 +16,7 @@ inline constexpr std::size_t kEvery = 1;
 
 inline std::vector<Seed> SomeSeeds()
 {
-    const std::vector<Seed> all = MutationSeeds();
+    const std::vector<Seed> all = Seeds();
     std::vector<Seed> some;
     for (std::size_t i = 0; i < all.size(); i += kEvery) some.push_back(all[i]);
     return some;

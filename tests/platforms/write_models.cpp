@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "mutation/mutations.h"
-#include "mutation/seeds.h"
-#include "platforms/generated.h"
+#include "changed_models/changes.h"
+#include "models/seeds.h"
+#include "models/generated.h"
 
 namespace tamur::test {
 namespace {
@@ -41,9 +41,9 @@ class ModelFolder {
 
 void WriteChanged(ModelFolder& folder, std::size_t count)
 {
-    std::vector<Mutations> seeds;
+    std::vector<Changes> seeds;
     std::size_t changes = 0;
-    for (const Seed& seed : MutationSeeds()) {
+    for (const Seed& seed : Seeds()) {
         seeds.emplace_back(seed.text);
         changes += seeds.back().Count();
     }

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 

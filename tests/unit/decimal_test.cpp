@@ -7,7 +7,7 @@
 #include <string>
 
 #include "import/scan/characters.h"
-#include "support/line_generator.h"
+#include "models/line_generator.h"
 
 namespace tamur {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "support/line_generator.h"
+#include "models/line_generator.h"
 
 namespace tamur {
 namespace {

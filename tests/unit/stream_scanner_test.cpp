@@ -7,7 +7,7 @@
 #include <limits>
 #include <sstream>
 
-#include "support/line_generator.h"
+#include "models/line_generator.h"
 
 namespace tamur {
 namespace {

@@ -11,6 +11,6 @@ struct Seed {
     std::string text;
 };
 
-[[nodiscard]] std::vector<Seed> MutationSeeds();
+[[nodiscard]] std::vector<Seed> Seeds();
 
 }  // namespace tamur::test

@@ -1,9 +1,9 @@
-#include "failures/ownership_ledger.h"
+#include "linked/ownership_ledger.h"
 
 #include <unordered_map>
 
-#include "failures/stand_in.h"
-#include "failures/watched_allocations.h"
+#include "linked/stand_in.h"
+#include "linked/watched_allocations.h"
 #include "platform/platform.h"
 
 namespace tamur::test {

@@ -1,7 +1,7 @@
 // Models with bars on two materials, two sections and two releases.
 #pragma once
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 

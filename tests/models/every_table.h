@@ -5,7 +5,7 @@
 #include <string>
 #include <type_traits>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 

@@ -1,4 +1,4 @@
-#include "mutation/mutations.h"
+#include "changed_models/changes.h"
 
 #include <utility>
 
@@ -36,7 +36,7 @@ bool IsSeparator(char c)
 
 }  // namespace
 
-Mutations::Mutations(std::string text) : text_(std::move(text))
+Changes::Changes(std::string text) : text_(std::move(text))
 {
     for (std::size_t i = 0; i < text_.size(); ++i) {
         if (i == 0 || text_[i - 1] == '\n') lines_.push_back({i, i});
@@ -47,13 +47,13 @@ Mutations::Mutations(std::string text) : text_(std::move(text))
     }
 }
 
-std::size_t Mutations::Count() const
+std::size_t Changes::Count() const
 {
     return text_.size() * (1 + kByteChanges) + tokens_.size() * Oddities().size() +
            lines_.size() * kLineChanges;
 }
 
-std::string Mutations::Apply(std::size_t number) const
+std::string Changes::Apply(std::size_t number) const
 {
     if (number < text_.size()) return text_.substr(0, number);
     number -= text_.size();
@@ -69,7 +69,7 @@ std::string Mutations::Apply(std::size_t number) const
     return ChangeLine(number / kLineChanges, number % kLineChanges);
 }
 
-std::string Mutations::ChangeByte(std::size_t at, std::size_t how) const
+std::string Changes::ChangeByte(std::size_t at, std::size_t how) const
 {
     std::string changed = text_;
     switch (how) {
@@ -80,12 +80,12 @@ std::string Mutations::ChangeByte(std::size_t at, std::size_t how) const
     return changed;
 }
 
-std::string Mutations::Replace(Span span, const std::string& by) const
+std::string Changes::Replace(Span span, const std::string& by) const
 {
     return text_.substr(0, span.begin) + by + text_.substr(span.end);
 }
 
-std::string Mutations::ChangeLine(std::size_t line, std::size_t how) const
+std::string Changes::ChangeLine(std::size_t line, std::size_t how) const
 {
     const Span span = lines_[line];
     const std::string content = text_.substr(span.begin, span.end - span.begin);

@@ -1,11 +1,11 @@
-#include "platforms/generated.h"
+#include "models/generated.h"
 
 #include <algorithm>
 #include <string_view>
 #include <vector>
 
-#include "mutation/seeds.h"
-#include "support/line_generator.h"
+#include "models/seeds.h"
+#include "models/line_generator.h"
 
 namespace tamur::test {
 namespace {
@@ -35,7 +35,7 @@ std::string ChangedTokens(std::string_view line, int oneIn, LineGenerator& rando
 
 std::string GeneratedModel(std::uint32_t number)
 {
-    static const std::vector<Seed> seeds = MutationSeeds();
+    static const std::vector<Seed> seeds = Seeds();
     LineGenerator random(number);
     std::string out;
     std::string_view text = seeds[number % seeds.size()].text;

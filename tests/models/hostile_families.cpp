@@ -1,4 +1,4 @@
-#include "hostile_families.h"
+#include "models/hostile_families.h"
 
 #include <initializer_list>
 #include <string_view>

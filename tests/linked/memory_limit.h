@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "failures/memory_watch.h"
+#include "linked/memory_watch.h"
 
 namespace tamur::test {
 

@@ -1,8 +1,8 @@
 // A model with one record in every table of elements.
 #pragma once
 
-#include "support/bar_models.h"
-#include "support/load_case_models.h"
+#include "models/bar_models.h"
+#include "models/load_case_models.h"
 
 namespace tamur::test {
 

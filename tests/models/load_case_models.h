@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "support/element_lines.h"
+#include "models/element_lines.h"
 
 namespace tamur::test {
 

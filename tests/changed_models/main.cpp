@@ -1,16 +1,16 @@
 // Imports changed models, one after the other, and reads everything that came of each. There is
 // nothing to compare with: that it ends, without a crash, a leak, too much memory or a word from a
-// sanitizer, is the test. usage: mutation_tests [SHARE [FIRST]]: takes every SHARE-th change (20)
-// from that number (0) on.
+// sanitizer, is the test. usage: changed_models_tests [SHARE [FIRST]]: takes every SHARE-th change
+// (20) from that number (0) on.
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
-#include "failures/memory_limit.h"
-#include "failures/quiet_boxes.h"
-#include "mutation/mutations.h"
-#include "mutation/scratch_file.h"
-#include "mutation/seeds.h"
+#include "linked/memory_limit.h"
+#include "linked/quiet_boxes.h"
+#include "changed_models/changes.h"
+#include "changed_models/scratch_file.h"
+#include "models/seeds.h"
 #include "support/component_under_test.h"
 #include "support/read_everything.h"
 
@@ -30,15 +30,15 @@ class Run {
     // False when a file broke a rule.
     bool TryAll()
     {
-        for (const Seed& seed : MutationSeeds()) {
-            const Mutations mutations(seed.text);
-            for (; next_ < before_ + mutations.Count(); next_ += share_) {
-                if (Try(mutations.Apply(next_ - before_))) continue;
+        for (const Seed& seed : Seeds()) {
+            const Changes changes(seed.text);
+            for (; next_ < before_ + changes.Count(); next_ += share_) {
+                if (Try(changes.Apply(next_ - before_))) continue;
                 std::printf("%s, change %zu: took too much memory or kept some\n",
                             seed.name.c_str(), next_ - before_);
                 return false;
             }
-            before_ += mutations.Count();
+            before_ += changes.Count();
         }
         return files_ != 0;
     }

@@ -1,4 +1,4 @@
-#include "mutation/seeds.h"
+#include "models/seeds.h"
 
 #include <string_view>
 
@@ -79,7 +79,7 @@ std::string WithCarriageReturns(const std::string& text)
 
 }  // namespace
 
-std::vector<Seed> MutationSeeds()
+std::vector<Seed> Seeds()
 {
     constexpr std::size_t kCount = 112;
     std::vector<Seed> seeds;

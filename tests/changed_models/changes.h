@@ -9,9 +9,9 @@ namespace tamur::test {
 
 // Every truncation; every byte changed to each of twelve others; every token replaced by each of
 // thirteen oddities; every line deleted, doubled, or swapped with the next.
-class Mutations {
+class Changes {
  public:
-    explicit Mutations(std::string text);
+    explicit Changes(std::string text);
 
     [[nodiscard]] std::size_t Count() const;
     [[nodiscard]] std::string Apply(std::size_t number) const;

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "failures/watched_allocations.h"
+#include "linked/watched_allocations.h"
 
 using tamur::test::MayAllocate;
 using tamur::test::NoteAllocated;

@@ -1,8 +1,8 @@
-#include "failures/memory_watch.h"
+#include "linked/memory_watch.h"
 
 #include <atomic>
 
-#include "failures/watched_allocations.h"
+#include "linked/watched_allocations.h"
 
 #ifdef _WIN32
 #include <windows.h>
