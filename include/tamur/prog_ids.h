@@ -22,7 +22,8 @@ inline constexpr ProgId kProgIds[] = {
      &CLSID_TMRSurfaciqueAccessor},
 };
 
-// The class of that name, with its version or without; null when it names none.
+// The class of that name, with its version or without, written exactly so; null when it names
+// none.
 inline const CLSID* ClassOfProgId(std::basic_string_view<OLECHAR> name)
 {
     for (const ProgId& progId : kProgIds) {

@@ -14,7 +14,7 @@ using WideString = std::basic_string<OLECHAR>;
 using WideStringView = std::basic_string_view<OLECHAR>;
 
 // What is no character in the one form (a lone surrogate, a malformed byte) becomes "?" in the
-// other, as in the conversions of Windows.
+// other, as it does in the ANSI code page of Windows.
 inline constexpr std::uint32_t kNoCharacter = '?';
 
 namespace utf {

@@ -14,10 +14,10 @@ struct As {
 
 // A row is a line.
 // clang-format off
-inline auto See(As<TMRMaterial>, const Model& m) { return ArrayView(m, m.barTables->materials); }
-inline auto See(As<TMRSectionGeometry>, const Model& m) { return ArrayView(m, m.barTables->sections); }
-inline auto See(As<TMRAttache>, const Model& m) { return ArrayView(m, m.barTables->releases); }
-inline auto See(As<TMRGroupe>, const Model& m) { return ArrayView(m, m.groups.Groups()); }
+inline auto See(As<TMRMaterial>, const Model& m) { return ArrayView(m, [](auto& of) -> auto& { return of.barTables->materials; }); }
+inline auto See(As<TMRSectionGeometry>, const Model& m) { return ArrayView(m, [](auto& of) -> auto& { return of.barTables->sections; }); }
+inline auto See(As<TMRAttache>, const Model& m) { return ArrayView(m, [](auto& of) -> auto& { return of.barTables->releases; }); }
+inline auto See(As<TMRGroupe>, const Model& m) { return ArrayView(m, [](auto& of) -> auto& { return of.groups.Groups(); }); }
 inline auto See(As<TMRCas>, const Model& m) { return CasesCopy(m.cases); }
 
 inline auto See(As<TMRNode>, const Model& m) { return CheckedView(m, m.nodes); }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "model/model.h"
 #include "platform/platform.h"
@@ -11,8 +13,7 @@ namespace tamur {
 // Every view has:
 //   Count()             the number of records that the accessor reports
 //   CheckRank(rank)     whether there is such a record; for some views a rank outside the table
-//   ends
-//                       the process instead
+//                       ends the process instead
 //   At(rank)            the record, for a rank that passed the check
 //   Referred()          the tables that it refers to, where it does
 //   kCopyFailure        the result when memory for a copy runs out
@@ -31,35 +32,52 @@ void PrefetchLabels(const Records& records, std::size_t rank)
     }
 }
 
-// The records that the table held when the view was made.
-template <class Record>
+// The records that a table held when the view was made; `find(model)` gives the table. It is found
+// through the model at each call: some tables outlive the model, and the view must not.
+template <class Find>
 class ArrayView {
  public:
     static constexpr HRESULT kCopyFailure = E_OUTOFMEMORY;
 
-    ArrayView(const Model& model, const Table<Record>& table)
-        : model_(model), table_(table), first_(0), count_(static_cast<LONG>(table.Size()))
-    {
-    }
-    ArrayView(const Model& model, const Generation<Record>& generation)
+    ArrayView(const Model& model, Find find)
         : model_(model),
-          table_(generation.all),
-          first_(generation.first),
-          count_(static_cast<LONG>(generation.Size()))
+          find_(find),
+          first_(FirstOf(find(model))),
+          count_(static_cast<LONG>(find(model).Size()))
     {
     }
 
     [[nodiscard]] LONG Count() const { return count_; }
     [[nodiscard]] bool CheckRank(LONG rank) const { return rank >= 0 && rank < count_; }
-    [[nodiscard]] const Record& At(LONG rank) const
+    [[nodiscard]] const auto& At(LONG rank) const
     {
-        return table_[first_ + static_cast<std::size_t>(rank)];
+        return AllOf(find_(model_))[first_ + static_cast<std::size_t>(rank)];
     }
-    [[nodiscard]] const BarTables& Referred() const { return *model_.barTables; }
 
  private:
+    template <class Record>
+    static const Table<Record>& AllOf(const Table<Record>& table)
+    {
+        return table;
+    }
+    template <class Record>
+    static const Table<Record>& AllOf(const Generation<Record>& generation)
+    {
+        return generation.all;
+    }
+    template <class Record>
+    static std::size_t FirstOf(const Table<Record>&)
+    {
+        return 0;
+    }
+    template <class Record>
+    static std::size_t FirstOf(const Generation<Record>& generation)
+    {
+        return generation.first;
+    }
+
     const Model& model_;
-    const Table<Record>& table_;
+    Find find_;
     std::size_t first_;
     LONG count_;
 };

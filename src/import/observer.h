@@ -6,10 +6,10 @@
 namespace tamur {
 
 enum class Finding {
-    kUnknownKind,           // element line of a kind without records: dropped
-    kCountBeyondLine,       // more points or labels announced than the line has characters: dropped
-    kTooFewPoints,          // fewer points announced than the kind needs: dropped
-    kZeroLengthBar,         // both ends at one place: dropped
+    kUnknownKind,      // element line of a kind without records: dropped
+    kCountBeyondLine,  // more points than the line has characters, or labels than any line: dropped
+    kTooFewPoints,     // fewer points announced than the kind needs: dropped
+    kZeroLengthBar,    // both ends at one place: dropped
     kUnreadableColumn,      // the line ends, or stops making sense, before its last column
     kMaterialReplaced,      // no such material: the first stands in
     kSectionReplaced,       // no such section: the first stands in

@@ -5,6 +5,17 @@
 
 namespace tamur {
 
+namespace {
+
+// Throws std::bad_alloc, where shrink_to_fit would go on with the memory for the throw used up.
+template <class T>
+void GiveBackSpare(std::vector<T>& values)
+{
+    std::vector<T>(values).swap(values);
+}
+
+}  // namespace
+
 void CaseTable::Clear()
 {
     cases_.clear();
@@ -14,7 +25,7 @@ void CaseTable::Clear()
 
 void CaseTable::Finish()
 {
-    cases_.shrink_to_fit();
+    GiveBackSpare(cases_);
     byNumber_.resize(cases_.size());
     std::iota(byNumber_.begin(), byNumber_.end(), 0u);
     std::sort(byNumber_.begin(), byNumber_.end(), [this](std::uint32_t a, std::uint32_t b) {
@@ -27,7 +38,7 @@ void CaseTable::Finish()
         }
         runs_.back().end = place + 1;
     }
-    runs_.shrink_to_fit();
+    GiveBackSpare(runs_);
 }
 
 const CaseTable::Run* CaseTable::FindRun(std::int32_t number) const

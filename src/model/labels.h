@@ -67,8 +67,6 @@ class LabelPlaces {
         for (int i = 0; i < counts_.held; ++i) visit(texts_[i]);
     }
 
-    void Prefetch() const { __builtin_prefetch(texts_); }
-
  private:
     const Text* texts_ = nullptr;  // in an arena; null when there are none
     LabelCounts counts_;

@@ -128,6 +128,7 @@ TEST(OwnCopiesDeathTest, ViewsAndLentLabelsAfterTheirReaderAreReportedAsErrors)
     ForEachTable([](const char* name, auto table) {
         SCOPED_TRACE(name);
         auto reader = Imported(EveryTable());
+        const auto bars = Filaires(*reader);  // keeps what bars are made of, and saves no view
         const auto records = table(*reader);
         using PublicRecord = typename TableTraits<decltype(table(*reader))>::PublicRecord;
         constexpr bool kIsCopy =

@@ -107,6 +107,13 @@ TEST(Findings, CountsThatCannotBeMeant)
                             Found{Finding::kCountBeyondLine, "1 7 0 1 50000 1 2 3"}));
 }
 
+TEST(Findings, ShortModalLinesAfterTheFirst)
+{
+    const std::string whole = "3 3 1 90 91 92 1 1 1 2 2 3 3 4 4 5 5 6 6 7 7 8 8 1 w 41 O w 0.05";
+    EXPECT_THAT(FindingsIn("#Cas\n3 M 3 M 0\n#TAB_PARAM_CAS\n" + whole + "\n3 3 1 90 x\n"),
+                ElementsAre(Found{Finding::kUnreadableColumn, "3 3 1 90 x"}));
+}
+
 TEST(Findings, ListsShorterThanTheirCount)
 {
     const Finding unreadable = Finding::kUnreadableColumn;

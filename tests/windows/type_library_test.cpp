@@ -148,6 +148,25 @@ TEST_F(TypeLibrary, HoldsEveryMethodInItsSlot)
     });
 }
 
+// Every method that fills a record or a text by rank gives it back as its result.
+TEST_F(TypeLibrary, RankMethodsReturnTheirRecord)
+{
+    int methods = 0;
+    ForEachType(TKIND_INTERFACE, [&](const TypeDescription& type) {
+        for (UINT i = 0; i < type->cFuncs; ++i) {
+            const auto method = type.Function(i);
+            if (!method.name.ends_with("AtRank")) continue;
+            ++methods;
+            const FUNCDESC& description = *method.description;
+            ASSERT_EQ(description.cParams, 2) << method.name;
+            EXPECT_EQ(description.lprgelemdescParam[1].paramdesc.wParamFlags,
+                      PARAMFLAG_FOUT | PARAMFLAG_FRETVAL)
+                << method.name;
+        }
+    });
+    EXPECT_EQ(methods, 28);
+}
+
 TEST_F(TypeLibrary, HoldsTheElevenClassesWithTheirHelp)
 {
     const std::vector<std::vector<std::string>> published = {

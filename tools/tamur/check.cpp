@@ -58,7 +58,8 @@ const char* TextOf(Finding finding)
         case Finding::kCombinationSkipped:
             return "a combined case is missing: dropped and disabled";
         case Finding::kCombinationUnended: return "combination without its end marker: kept";
-        case Finding::kListCountIgnored: return "a count that cannot be meant: no values read";
+        case Finding::kListCountIgnored:
+            return "a count that is negative or beyond any line: no values read";
     }
     return "";
 }

@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <utility>
+#include <cstddef>
 #include <vector>
 
 #include "import/loads/case_parameters.h"
@@ -7,7 +7,13 @@
 namespace tamur {
 namespace {
 
-using Term = std::pair<std::int32_t, double>;  // case number, factor
+// A combined case and its factor. The place keeps equal cases in the order of the line: sorting by
+// it needs no memory, as a stable sort would.
+struct Term {
+    std::int32_t caseNumber = 0;
+    double factor = 0;
+    std::size_t place = 0;
+};
 
 constexpr std::int32_t kEndOfList = 32767;
 
@@ -17,14 +23,15 @@ bool ReadTerms(StreamScanner& tokens, const Model& model, const ModelFile& file,
 {
     for (;;) {
         Term term;
-        tokens >> term.first;
-        if (!tokens.Failed() && term.first == kEndOfList) return true;
-        tokens >> term.second;
+        tokens >> term.caseNumber;
+        if (!tokens.Failed() && term.caseNumber == kEndOfList) return true;
+        tokens >> term.factor;
         if (tokens.Failed()) {
             file.Report(Finding::kCombinationUnended);
             return true;
         }
-        if (model.cases.GetCasType(term.first) == case_type::kDisabled) return false;
+        if (model.cases.GetCasType(term.caseNumber) == case_type::kDisabled) return false;
+        term.place = terms.size();
         terms.push_back(term);
     }
 }
@@ -32,12 +39,13 @@ bool ReadTerms(StreamScanner& tokens, const Model& model, const ModelFile& file,
 // One term a case, ascending; a case that is named again adds to its factor.
 void MergeTerms(std::vector<Term>& terms)
 {
-    std::stable_sort(terms.begin(), terms.end(),
-                     [](const Term& a, const Term& b) { return a.first < b.first; });
+    std::sort(terms.begin(), terms.end(), [](const Term& a, const Term& b) {
+        return a.caseNumber != b.caseNumber ? a.caseNumber < b.caseNumber : a.place < b.place;
+    });
     std::size_t last = 0;
     for (std::size_t i = 1; i < terms.size(); ++i) {
-        if (terms[i].first == terms[last].first) {
-            terms[last].second += terms[i].second;
+        if (terms[i].caseNumber == terms[last].caseNumber) {
+            terms[last].factor += terms[i].factor;
         } else {
             terms[++last] = terms[i];
         }
@@ -66,8 +74,8 @@ void ReadCombination(StreamScanner& tokens, std::int32_t caseNumber, Model& mode
     std::int32_t* const cases = model.arena.Array<std::int32_t>(terms.size());
     double* const factors = model.arena.Array<double>(terms.size());
     for (std::size_t i = 0; i < terms.size(); ++i) {
-        cases[i] = terms[i].first;
-        factors[i] = terms[i].second;
+        cases[i] = terms[i].caseNumber;
+        factors[i] = terms[i].factor;
     }
     model.combinations.Append({.cases = cases,
                                .factors = factors,

@@ -30,11 +30,12 @@ void ReadModes(StreamScanner& tokens, Model& model, const ModelFile& file)
     Modes modes = model.modes;
     ReadFields(tokens, modes);
     std::int32_t count = ListCount(modes.dampings.count, file);
+    const bool hasList = count > 0;
     // An array that is already there is given up, and the number of modes with it.
     if (modes.hasDampings) count = 0;
     modes.dampings = ReadList<double>(tokens, count, model.arena);
-    modes.hasDampings = modes.hasDampings || count > 0;
-    if (count > 0 && tokens.Failed()) file.Report(Finding::kUnreadableColumn);
+    modes.hasDampings = modes.hasDampings || hasList;
+    if (hasList && tokens.Failed()) file.Report(Finding::kUnreadableColumn);
     model.modes = modes;
 }
 

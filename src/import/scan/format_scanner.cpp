@@ -1,6 +1,5 @@
 #include "import/scan/format_scanner.h"
 
-#include <algorithm>
 #include <limits>
 #include <string>
 
@@ -133,7 +132,8 @@ FormatScanner& FormatScanner::operator>>(std::string_view& word)
 {
     if (at_ == nullptr) return *this;
     const char* const begin = SkipBlanks(at_);
-    const char* const end = std::min(EndOfWord(begin), begin + kLongestColumn);
+    const char* end = EndOfWord(begin);
+    if (end - begin > kLongestColumn) end = begin + kLongestColumn;
     at_ = begin == end ? nullptr : end;
     if (at_ != nullptr) word = std::string_view(begin, static_cast<std::size_t>(end - begin));
     return *this;

@@ -1,4 +1,5 @@
 // The loading and unloading of the library.
+#include "com/guarded.h"
 #include "server/reader_app.h"
 #include "server/windows/instance.h"
 
@@ -21,7 +22,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID)
     if (reason == DLL_PROCESS_ATTACH) {
         tamur::theInstance = instance;
         DisableThreadLibraryCalls(instance);
-        return tamur::theApp.InitInstance();
+        const auto start = [] { return tamur::theApp.InitInstance() ? S_OK : E_FAIL; };
+        return SUCCEEDED(tamur::com::Guarded(start));
     }
     if (reason == DLL_PROCESS_DETACH) tamur::theApp.ExitInstance();
     return TRUE;
