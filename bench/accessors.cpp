@@ -120,7 +120,7 @@ void MeasureRecords(Context& context, ITAMURStructureReader& reader)
                                           Reading(nodes, nodeCount), Allocating(nodeSizes),
                                           [&] { return TimeGetNodes(nodes.TheAccessor(), all); }});
     context.report.Add({"GetFilaireAtRank + freeing / bare allocations",
-                        Quotients(samples[0], samples[1]), 2.0, 1.4});
+                        Quotients(samples[0], samples[1]), 1.8, 1.4});
     AddTime(context, "GetFilaireAtRank + freeing", samples[0], barCount, "ns/bar");
     context.report.Add(
         {"GetNodeAtRank + freeing / bare allocations", Quotients(samples[2], samples[3]), 3, 2});
