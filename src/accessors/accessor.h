@@ -7,7 +7,7 @@
 
 #include "TAMURReader.h"
 #include "accessors/accessor_interface.h"
-#include "accessors/records.h"
+#include "accessors/deliver.h"
 #include "accessors/served_tables.h"
 
 namespace tamur {

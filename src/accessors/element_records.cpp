@@ -2,7 +2,7 @@
 #include <cstring>
 #include <limits>
 
-#include "accessors/records.h"
+#include "accessors/served_tables.h"
 #include "accessors/type_names.h"
 
 namespace tamur {

@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "accessors/records.h"
+#include "accessors/served_tables.h"
 
 namespace tamur {
 namespace {

@@ -1,4 +1,4 @@
-#include "accessors/records.h"
+#include "accessors/served_tables.h"
 #include "accessors/type_names.h"
 
 namespace tamur {

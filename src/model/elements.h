@@ -1,14 +1,42 @@
-// Records of the element table. Fields stand in the order that packs them best; which column
-// feeds which is said once, where the kinds are read.
+// The kinds of elements, the records of each but loads, and the table of each. Fields are in the
+// order that packs them best; which column feeds which is said once, where the kinds are read.
 #pragma once
 
 #include <cstdint>
 
 #include "TAMURReader.h"
+#include "model/arena.h"
 #include "model/geometry.h"
+#include "model/group_load_table.h"
 #include "model/labels.h"
+#include "model/loads.h"
+#include "model/table.h"
 
 namespace tamur {
+
+// By the number that begins their lines.
+enum class ElementKind : std::int32_t {
+    kNode = 1,
+    kBar = 2,
+    kSurface = 3,
+    kPointSupport = 4,
+    kPointLoad = 5,
+    kLineLoad = 6,
+    kSurfaceLoad = 7,
+    kSelfWeight = 8,
+    kMass = 9,
+    kLineSupport = 10,
+    kSurfaceSupport = 11,
+    kDisplacement = 12,
+    kThermalLoad = 13,
+    // 14, 18 and 19 give no record.
+    kSurfaceSection = 15,
+    kInnerLine = 16,
+    kOpening = 17,
+    kWall = 20,
+    kCable = 21,
+    kConstructionLine = 22,
+};
 
 struct Node {
     Point position;
@@ -166,6 +194,30 @@ struct ConstructionLine {
     std::int32_t group = 0;
     std::int32_t elementCount = 0;
     std::int32_t spacing = 0;
+};
+
+// A table for each kind but bars, which have their own home.
+struct ElementTables {
+    Arena arena;  // strings and arrays of these records
+
+    Table<Node> nodes{arena};
+    Table<Surface> surfaces{arena};
+    Table<PointSupport> pointSupports{arena};
+    Table<PointLoad> pointLoads{arena};
+    Table<LineLoad> lineLoads{arena};
+    Table<SurfaceLoad> surfaceLoads{arena};
+    GroupLoadTable selfWeightLoads{arena};
+    Table<Mass> masses{arena};
+    Table<LineSupport> lineSupports{arena};
+    Table<SurfaceSupport> surfaceSupports{arena};
+    Table<Displacement> displacements{arena};
+    GroupLoadTable thermalLoads{arena};
+    Table<SurfaceSection> surfaceSections{arena};
+    Table<InnerLine> innerLines{arena};
+    Table<Opening> openings{arena};
+    Table<Wall> walls{arena};
+    Table<Cable> cables{arena};
+    Table<ConstructionLine> constructionLines{arena};
 };
 
 }  // namespace tamur

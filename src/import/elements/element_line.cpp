@@ -3,7 +3,6 @@
 #include "import/elements/element_line.h"
 
 #include "import/elements/bar.h"
-#include "import/elements/element_kind.h"
 #include "import/elements/element_reader.h"
 #include "import/elements/references.h"
 #include "import/elements/wall.h"
