@@ -1,4 +1,4 @@
-#include "changed_models/changes.h"
+#include "models/changes.h"
 
 #include <utility>
 
