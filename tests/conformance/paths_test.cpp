@@ -32,7 +32,7 @@ TEST(Paths, BlanksAreFine)
     ExpectImported(WideOf(NamedFile(" - deux  blancs .txt").Path()));
 }
 
-TEST(Paths, PercentSignsAreShownAsTheyStand)
+TEST(Paths, PercentSignsAreShownAsTheyAre)
 {
     ExpectRefused(Wide("no %s such %d file 100%.txt"), "no %s such %d file 100%.txt");
 }

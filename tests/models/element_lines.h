@@ -30,14 +30,14 @@ class ElementLine {
         labels_.assign(labels.begin(), labels.end());
         return *this;
     }
-    // Everything after the head, as it stands.
+    // Everything after the head, as it is.
     ElementLine& Columns(std::string_view columns)
     {
         columns_ = columns;
         return *this;
     }
 
-    // NOLINTNEXTLINE(google-explicit-constructor): stands where lines of text are listed
+    // NOLINTNEXTLINE(google-explicit-constructor): is put where lines of text are listed
     operator std::string() const
     {
         std::string text =
