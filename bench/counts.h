@@ -10,7 +10,7 @@
 
 namespace tamur::bench {
 
-// The elements by their kinds, from 1 to 22; behind them the tables that bars refer to.
+// The elements by their kinds, from 1 to 22; after them the tables that bars refer to.
 inline constexpr std::size_t kMaterials = 23, kSections = 24, kReleases = 25;
 using Counts = std::array<std::int64_t, 26>;
 

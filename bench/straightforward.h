@@ -1,7 +1,7 @@
 // The import as one would write it without a thought for speed, as a reference to compare with:
 // lines by fgets, a rewind for every header, a string stream for every line, and whole records
 // copied into the bars. It reads what makes up the time of an import: materials, sections, releases
-// and elements. It passes over the other tables, and over what walls have behind their span.
+// and elements. It passes over the other tables, and over what walls have after their span.
 #pragma once
 
 #include <array>

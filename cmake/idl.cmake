@@ -52,6 +52,19 @@ add_custom_command(
     COMMENT "Contract: the component's accessors"
     VERBATIM)
 
+set(bindings_dir ${generated_dir}/bindings)
+file(GLOB contract_scripts CONFIGURE_DEPENDS ${idl_dir}/*.py)
+add_custom_command(
+    OUTPUT ${bindings_dir}/tamur_reader.py ${bindings_dir}/TAMURReader.cs
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${bindings_dir}
+    COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_bindings.py ${idl_dir}/TAMURReader.idl
+            ${bindings_dir}
+    DEPENDS ${idl_dir}/TAMURReader.idl ${contract_scripts}
+    COMMENT "Contract: declarations for Python and C#"
+    VERBATIM)
+add_custom_target(bindings ALL DEPENDS ${bindings_dir}/tamur_reader.py
+                                       ${bindings_dir}/TAMURReader.cs)
+
 add_custom_target(contract DEPENDS ${generated_dir}/TAMURReader.h
                                    ${generated_dir}/tamur/fields.h
                                    ${generated_dir}/tamur/tables.h

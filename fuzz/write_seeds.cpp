@@ -35,7 +35,7 @@ class SeedFolder {
 };
 
 // The lines after the first such header, up to the next one.
-std::string_view LinesBehind(std::string_view text, std::string_view header)
+std::string_view LinesAfter(std::string_view text, std::string_view header)
 {
     const std::size_t found = text.find(header);
     if (found == text.npos) return {};
@@ -54,8 +54,8 @@ void WriteModels(const std::filesystem::path& folder)
         const std::string& text = seeds[i].text;
         models.Add(text);
         pairs.Add(text + '\x1D' + seeds[(i + 1) % seeds.size()].text);
-        elements.Add(LinesBehind(text, "#Elements"));
-        parameters.Add(LinesBehind(text, "#TAB_PARAM_CAS"));
+        elements.Add(LinesAfter(text, "#Elements"));
+        parameters.Add(LinesAfter(text, "#TAB_PARAM_CAS"));
     }
 }
 

@@ -1,2 +1,2 @@
-// Everything stands in windows.h; this file only answers to the name.
+// Everything is in windows.h; this file only answers to the name.
 #include <windows.h>

@@ -35,7 +35,7 @@ TEST(BarAngles, StayOnTheDefaultSection)
     }
 }
 
-// A section line that ends early has the outline code that stands for a missing one.
+// A section line that ends early has the outline code of a missing one.
 TEST(BarAngles, AreTurnedOnSectionsWithoutAnOutline)
 {
     const auto reader = Imported(
@@ -110,7 +110,7 @@ TEST(BarsOfTwoImports, CoverTheirOwnDefaults)
     EXPECT_EQ(Utf8(old->FilaireMaterial.MaterialName), "BETON");
     const auto late = BarOf(reader, 1);
     EXPECT_EQ(Utf8(late->StartSection.SectionLib), "R1");
-    EXPECT_EQ(Utf8(late->FilaireMaterial.MaterialName), "C25");  // the default stands before it
+    EXPECT_EQ(Utf8(late->FilaireMaterial.MaterialName), "C25");  // the default is before it
 }
 
 }  // namespace

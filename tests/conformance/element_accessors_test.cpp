@@ -30,11 +30,23 @@ void ExpectRanksChecked(const Range<PublicRecord>& range)
     }
 }
 
+TEST(ElementAccessors, ModelOfTheseTestsHasOneOfEachElement)
+{
+    const auto reader = Imported(OneOfEachModel(7));
+    int tables = 0;
+    ForEachElementTable(*reader, [&](const auto& range) {
+        EXPECT_EQ(range.Size(), 1) << range.Name();
+        ++tables;
+    });
+    constexpr int kKindsOfElements = 19;
+    EXPECT_EQ(tables, kKindsOfElements);
+}
+
 TEST(ElementAccessors, RanksOutsideATableFailAndWriteNothing)
 {
     const auto reader = Imported(OneOfEachModel(7));
     ForEachCheckedTable(*reader, [](const auto& range) {
-        SCOPED_TRACE(typeid(range).name());
+        SCOPED_TRACE(range.Name());
         EXPECT_EQ(range.Size(), 1);
         ExpectRanksChecked(range);
     });
@@ -44,7 +56,7 @@ TEST(ElementAccessors, RanksOfEmptyTablesFail)
 {
     const auto reader = NewReader();
     ForEachCheckedTable(*reader, [](const auto& range) {
-        SCOPED_TRACE(typeid(range).name());
+        SCOPED_TRACE(range.Name());
         EXPECT_EQ(range.Size(), 0);
         ExpectRanksChecked(range);
     });
@@ -82,7 +94,7 @@ TEST(ElementAccessors, MostSeeASecondImport)
     const auto reader = Imported(OneOfEachModel(7));
     ITAMURStructureReader& r = *reader;
     const auto seesBoth = [](const auto& range) {
-        EXPECT_THAT(IdentifiersOf(range), ElementsAre(7, 8)) << typeid(range).name();
+        EXPECT_THAT(IdentifiersOf(range), ElementsAre(7, 8)) << range.Name();
     };
     AcrossASecondImport(r, seesBoth, Nodes(r), AppuisPonctuels(r), AppuisLineaires(r),
                         AppuisSurfaciques(r), Masses(r), Cables(r), Lines(r), LinesInterieur(r),
@@ -97,9 +109,9 @@ TEST(ElementAccessors, FrozenCountsDoNotLimitTheRanks)
     const auto reader = Imported(OneOfEachModel(7));
     ITAMURStructureReader& r = *reader;
     const auto countsOneAndReadsTwo = [](const auto& range) {
-        EXPECT_EQ(range.Size(), 1) << typeid(range).name();
-        EXPECT_EQ(range.At(0)->identifier, 7) << typeid(range).name();
-        EXPECT_EQ(range.At(1)->identifier, 8) << typeid(range).name();
+        EXPECT_EQ(range.Size(), 1) << range.Name();
+        EXPECT_EQ(range.At(0)->identifier, 7) << range.Name();
+        EXPECT_EQ(range.At(1)->identifier, 8) << range.Name();
     };
     AcrossASecondImport(r, countsOneAndReadsTwo, Surfaciques(r), Ouvertures(r), Parois(r));
     EXPECT_EQ(Surfaciques(r).Size(), 2);

@@ -2,7 +2,7 @@
 // first column that cannot be read ends the line.
 #include <gmock/gmock.h>
 
-#include "support/read_element.h"
+#include "models/read_element.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

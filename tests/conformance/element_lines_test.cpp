@@ -1,7 +1,7 @@
 // What all kinds of element lines share: the head and the labels.
 #include <gmock/gmock.h>
 
-#include "support/read_element.h"
+#include "models/read_element.h"
 #include "support/record_values.h"
 
 namespace tamur::test {

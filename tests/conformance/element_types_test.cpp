@@ -137,7 +137,7 @@ TEST(SurfaceMaterials, OfTwoImportsAreNumberedThrough)
                                       .Elements({SurfaceLine(1, 2), SurfaceLine(1, 1)})),
               S_OK);
     EXPECT_EQ(MaterialOf(*reader, 0), "BETON");
-    EXPECT_EQ(MaterialOf(*reader, 1), "FIRST");  // the default of the first import stands before
+    EXPECT_EQ(MaterialOf(*reader, 1), "FIRST");  // the default of the first import is before
     EXPECT_EQ(MaterialOf(*reader, 2), "BETON");
 }
 

@@ -11,9 +11,9 @@ using namespace std::string_literals;
 
 const std::string kConcrete = "BETON";  // the material of a file that defines none
 
-Names MaterialNamesOf(std::string_view behindSettings)
+Names MaterialNamesOf(std::string_view afterSettings)
 {
-    return MaterialNames(*Imported(ModelText().Raw(behindSettings)));
+    return MaterialNames(*Imported(ModelText().Raw(afterSettings)));
 }
 
 std::string WithCarriageReturns(const std::string& text)
@@ -84,7 +84,7 @@ TEST(CtrlZ, EndsTheFileInTheMiddleOfALine)
     EXPECT_EQ(Materials(*reader).At(1)->nu, 0.0);
 }
 
-TEST(CtrlZ, HidesTheSectionsBehindIt)
+TEST(CtrlZ, HidesTheSectionsAfterIt)
 {
     EXPECT_EQ(MaterialNamesOf("\x1A\n#Materiaux\nA 1\n"), (Names{kConcrete}));
     EXPECT_EQ(
@@ -176,7 +176,7 @@ TEST(Headers, AnyLineWithANumberSignEndsASection)
     }
 }
 
-TEST(Headers, NumberSignBehindABlankIsData)
+TEST(Headers, NumberSignAfterABlankIsData)
 {
     EXPECT_EQ(MaterialNamesOf("#Materiaux\nA 1\n #Attaches\nB 2\n"),
               (Names{"A", "#Attaches", "B"}));

@@ -60,7 +60,7 @@ TEST(LongLines, LimitLiesBetween49999And50000Characters)
     }
 }
 
-TEST(LongLines, CharactersBehindANulCount)
+TEST(LongLines, CharactersAfterANulCount)
 {
     const auto reader = ImportedMaterials(Padded("A 1\0"s, kLongestLine) + "B 2\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A", "B"}));

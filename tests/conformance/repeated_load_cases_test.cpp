@@ -1,4 +1,4 @@
-// Self-weight and thermal loads of case numbers that stand in the file more than once, of large
+// Self-weight and thermal loads of case numbers that are in the file more than once, of large
 // models, and of two imports into one reader.
 #include <gmock/gmock.h>
 

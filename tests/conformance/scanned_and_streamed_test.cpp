@@ -165,7 +165,7 @@ TEST(IntegerColumns, WrittenAsRealsGoDifferentWays)
     EXPECT_EQ(section->epureSec.pTabPoints[1], 6.0);
 }
 
-TEST(BadColumns, StopAScanWithTheColumnsBehindAtTheirStartValues)
+TEST(BadColumns, StopAScanWithTheColumnsAfterItAtTheirStartValues)
 {
     const auto reader = Imported(ModelText()
                                      .Section("#Groupes", {"2 x 1 Titre Oui", "x 3 1 Titre Oui",
@@ -190,7 +190,7 @@ TEST(BadColumns, StopAScanWithTheColumnsBehindAtTheirStartValues)
     EXPECT_EQ(Utf8(release->Def), "");
 }
 
-TEST(BadColumns, StopAStreamWithTheTokensBehindAtTheirStartValues)
+TEST(BadColumns, StopAStreamWithTheTokensAfterItAtTheirStartValues)
 {
     const auto section = Outline("x C 0.5");
     EXPECT_EQ(section->V2z, 11.0);

@@ -53,7 +53,7 @@ std::vector<double> AccelerationsOf(const Record<TMRChargeSismique>& seismic)
     return Values(seismic->pAccelerationSpectrum, seismic->iPointsSpectrum);
 }
 
-// What stands before the spectrum, without the direction.
+// What is before the spectrum, without the direction.
 std::vector<double> HeadOf(const Record<TMRChargeSismique>& seismic)
 {
     return {seismic->dDisplacementsReductionCoeff, seismic->dForcesReductionCoeff,
@@ -186,7 +186,7 @@ TEST(SeismicCases, ThirtyNineWordsAreSkippedAfterTheSpectrum)
     const auto less = SeismicOf(SeismicLine{.skippedWords = 38, .tail = "99 4 1.5 12.5"});
     EXPECT_EQ(less->iWorkClass, 4);
     EXPECT_EQ(less->dLayerOfSoil, 12.5);
-    // One more, a number, and it stands where the work class is read.
+    // One more, a number, and it is where the work class is read.
     const auto more = SeismicOf(SeismicLine{.tail = "99 4 1.5"});
     EXPECT_EQ(more->iWorkClass, 99);
     EXPECT_EQ(more->dDuctilityCoeff, 4);

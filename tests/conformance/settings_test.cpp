@@ -108,7 +108,7 @@ TEST(Settings, ToleranceIsTakenAsWritten)
     }
 }
 
-TEST(Settings, OnlyTheLineBehindTheHeaderCounts)
+TEST(Settings, OnlyTheLineAfterTheHeaderCounts)
 {
     const auto reader =
         Imported("#Version\n12.1\n#Espace\n\n1\n#Tolerance\nabc\n0.5\n#Rigide\n\n1\n");

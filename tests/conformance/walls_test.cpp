@@ -129,14 +129,14 @@ TEST(WallSwitches, AreOneCharacterEachWhateverItIs)
     EXPECT_EQ(digits->iModeAccumulation, 14);
     EXPECT_EQ(digits->dCoefLongueur, 15.5);
 
-    const auto word = WallOf("11 OUI 14 15.5");  // "O", "U", and no number where "I" stands
+    const auto word = WallOf("11 OUI 14 15.5");  // "O", "U", and no number where "I" is
     EXPECT_EQ(word->bNeige, 1);
     EXPECT_EQ(word->bAccumulation, 0);
     EXPECT_EQ(word->iModeAccumulation, 0);
     EXPECT_EQ(word->dCoefLongueur, 0.0);
 }
 
-TEST(WallSwitches, AreOffBehindABadColumn)
+TEST(WallSwitches, AreOffAfterABadColumn)
 {
     const auto wall = WallOf("x O O 14 15.5 16.5 17.5 18.5 19.5 O 2 22.5");
     EXPECT_EQ(wall->bNeige, 0);

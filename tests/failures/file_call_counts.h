@@ -1,4 +1,4 @@
-// Behind FailingFiles, for the functions that stand in for the system's.
+// What FailingFiles counts, for the functions that stand in for the system's.
 #pragma once
 
 #include "failures/failing_files.h"

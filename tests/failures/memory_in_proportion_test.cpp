@@ -43,7 +43,7 @@ TEST(MemoryInProportion, FilesMadeToBeSlowStayWithinTheLimit)
     RecordProperty("largest peak in times the file", std::to_string(largest));
 }
 
-TEST(MemoryInProportion, CountsWithoutAnythingBehindThemTakeNothing)
+TEST(MemoryInProportion, CountsWithoutAnythingAfterThemTakeNothing)
 {
     const QuietBoxes boxes;
     const std::string huge[] = {"2147483647", "4294967295", "99999999999", "1000000", "49999"};

@@ -1,5 +1,5 @@
-// Files as they are on disks: changed by somebody else while they are read, larger than 32 bits can
-// count, or no files at all.
+// Files as they are on disks: changed by somebody else while they are read, or larger than 32 bits
+// can count.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -8,10 +8,6 @@
 #include "failures/failing_files.h"
 #include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
-
-#ifndef _WIN32
-#include <sys/stat.h>
-#endif
 
 namespace tamur::test {
 namespace {
@@ -91,17 +87,6 @@ TEST(RealFiles, OneOfMoreThanFourGigabytesIsReadToItsEnd)
     EXPECT_EQ(nodes.At(0)->identifier, 8);
     EXPECT_EQ(Materials(*reader).Size(), 1);
 }
-
-#ifndef _WIN32
-TEST(RealFiles, APipeIsRefusedWithoutWaitingForItsWriter)
-{
-    const QuietBoxes boxes;
-    const TemporaryFile file("");
-    std::filesystem::remove(file.Path());
-    ASSERT_EQ(mkfifo(file.Path().c_str(), 0600), 0);
-    EXPECT_EQ(ImportUndisturbed(file.Path()).result, E_FAIL);
-}
-#endif
 
 }  // namespace
 }  // namespace tamur::test

@@ -2,17 +2,11 @@
 #pragma once
 
 #include "models/seeds.h"
+#include "support/effort.h"
 #include "support/model_text.h"
 #include "support/read_everything.h"
 
 namespace tamur::test {
-
-// Where opening a file takes far longer, every so many is tried.
-#ifdef _WIN32
-inline constexpr std::size_t kEvery = 16;
-#else
-inline constexpr std::size_t kEvery = 1;
-#endif
 
 inline std::vector<Seed> SomeSeeds()
 {

@@ -1,28 +1,15 @@
 // What stands in for the run time's allocation functions: the linker leads every malloc, calloc and
 // free of this program here (--wrap).
-#include <malloc.h>
-
 #include <cstdlib>
 #include <new>
 
+#include "linked/platform_memory.h"
 #include "linked/watched_allocations.h"
 
 using tamur::test::MayAllocate;
 using tamur::test::NoteAllocated;
 using tamur::test::NoteFreed;
-
-namespace {
-
-std::size_t SizeOf(void* block)
-{
-#ifdef _WIN32
-    return _msize(block);
-#else
-    return malloc_usable_size(block);
-#endif
-}
-
-}  // namespace
+using tamur::test::SizeOfBlock;
 
 extern "C" {
 
@@ -34,43 +21,32 @@ void __real_free(void* block);
 void* __wrap_malloc(std::size_t size)
 {
     void* const block = MayAllocate(size) ? __real_malloc(size) : nullptr;
-    if (block != nullptr) NoteAllocated(SizeOf(block));
+    if (block != nullptr) NoteAllocated(SizeOfBlock(block));
     return block;
 }
 
 void* __wrap_calloc(std::size_t count, std::size_t size)
 {
     void* const block = MayAllocate(count * size) ? __real_calloc(count, size) : nullptr;
-    if (block != nullptr) NoteAllocated(SizeOf(block));
+    if (block != nullptr) NoteAllocated(SizeOfBlock(block));
     return block;
 }
 
 void* __wrap_realloc(void* block, std::size_t size)
 {
-    const std::size_t before = block != nullptr ? SizeOf(block) : 0;
+    const std::size_t before = block != nullptr ? SizeOfBlock(block) : 0;
     void* const moved = MayAllocate(size) ? __real_realloc(block, size) : nullptr;
     if (moved == nullptr) return nullptr;
     if (block != nullptr) NoteFreed(before);
-    NoteAllocated(SizeOf(moved));
+    NoteAllocated(SizeOfBlock(moved));
     return moved;
 }
 
 void __wrap_free(void* block)
 {
-    if (block != nullptr) NoteFreed(SizeOf(block));
+    if (block != nullptr) NoteFreed(SizeOfBlock(block));
     __real_free(block);
 }
-
-#ifndef _WIN32
-void* __real_aligned_alloc(std::size_t alignment, std::size_t size);
-
-void* __wrap_aligned_alloc(std::size_t alignment, std::size_t size)
-{
-    void* const block = MayAllocate(size) ? __real_aligned_alloc(alignment, size) : nullptr;
-    if (block != nullptr) NoteAllocated(SizeOf(block));
-    return block;
-}
-#endif
 
 }  // extern "C"
 

@@ -2,44 +2,16 @@
 
 #include <atomic>
 
+#include "linked/platform_memory.h"
 #include "linked/watched_allocations.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <pthread.h>
-#endif
 
 namespace tamur::test {
 namespace {
 
 constexpr std::uint64_t kNever = 0;
 
-// Not thread_local: where that is emulated, using it allocates.
-#ifdef _WIN32
-using ThreadId = DWORD;
-ThreadId ThisThread()
-{
-    return GetCurrentThreadId();
-}
-#else
-using ThreadId = pthread_t;
-ThreadId ThisThread()
-{
-    return pthread_self();
-}
-#endif
-
-// Where throwing takes memory, what is freed can be allocated again, as in a process that has none
-// left. Elsewhere nothing can.
-#ifdef _WIN32
-constexpr bool kFreedCanBeHadAgain = true;
-#else
-constexpr bool kFreedCanBeHadAgain = false;
-#endif
-
 std::atomic<bool> isWatching = false;
-ThreadId watched;
+ThreadId watched = 0;
 
 struct Counts {
     std::uint64_t allocations = 0;

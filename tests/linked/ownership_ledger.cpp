@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 
+#include "linked/platform_memory.h"
 #include "linked/stand_in.h"
 #include "linked/watched_allocations.h"
 #include "platform/platform.h"
@@ -19,22 +20,15 @@ struct Books {
 
 Books* books = nullptr;
 
-// On Linux each of these functions ends in a malloc, which is watched already.
-#ifdef _WIN32
-constexpr bool kIsMalloc = false;
-#else
-constexpr bool kIsMalloc = true;
-#endif
-
 constexpr std::size_t kSizeUnknown = 64;  // most are small
 
 template <class Make>
 auto Made(Kind kind, Make make) -> decltype(make())
 {
-    const bool may = kIsMalloc || MayAllocate(kSizeUnknown);
+    const bool may = kTaskMemoryIsMalloc || MayAllocate(kSizeUnknown);
     auto* const made = may ? make() : nullptr;
     if (made == nullptr) return made;
-    if (!kIsMalloc) NoteAllocated(kSizeUnknown);
+    if (!kTaskMemoryIsMalloc) NoteAllocated(kSizeUnknown);
     if (books != nullptr) {
         books->alive[made] = kind;
         ++books->made;
@@ -54,7 +48,7 @@ bool Freed(Kind kind, const void* gone)
         }
         books->alive.erase(entry);
     }
-    if (!kIsMalloc) NoteFreed(kSizeUnknown);
+    if (!kTaskMemoryIsMalloc) NoteFreed(kSizeUnknown);
     return true;
 }
 

@@ -8,7 +8,7 @@
 // library's function goes through a pointer with "__imp_" before its name: --wrap=__imp_NAME.
 #pragma once
 
-#ifdef _WIN32
+#ifdef _WIN32  // macros cannot be chosen by the linker, and their users are the same
 #define REAL(name) __real___imp_##name
 #define REAL_FUNCTION(name) extern "C" decltype(&name) REAL(name);
 #define STAND_IN(name)                                                \

@@ -30,14 +30,14 @@ class ElementLine {
         labels_.assign(labels.begin(), labels.end());
         return *this;
     }
-    // Everything after the head, as it stands.
+    // Everything after the head, as it is.
     ElementLine& Columns(std::string_view columns)
     {
         columns_ = columns;
         return *this;
     }
 
-    // NOLINTNEXTLINE(google-explicit-constructor): stands where lines of text are listed
+    // NOLINTNEXTLINE(google-explicit-constructor): is put where lines of text are listed
     operator std::string() const
     {
         std::string text =
@@ -60,18 +60,21 @@ inline ComPtr<ITAMURStructureReader> ImportedElements(const std::vector<std::str
     return Imported(ModelText().Elements(lines));
 }
 
-// The records that element lines become.
+// What element lines become has the identifier of its line or its labels; no other record has.
 template <class PublicRecord>
-inline constexpr bool kIsElement =
-    !IsOneOf<PublicRecord, TMRMaterial, TMRSectionGeometry, TMRAttache, TMRGroupe, TMRCas,
-             TMRChargeSismique, TMRCombinaison, TMREnveloppe>;
+constexpr bool IsElement()
+{
+    if constexpr (requires(PublicRecord record) { record.identifier; }) return true;
+    if constexpr (requires(PublicRecord record) { record.ElemLabels; }) return true;
+    return false;
+}
 
 // Calls use(range) for each of their tables.
 template <class Use>
 void ForEachElementTable(ITAMURStructureReader& reader, Use use)
 {
     ForEachTable(reader, [&](const auto& table) {
-        if constexpr (kIsElement<typename std::decay_t<decltype(table)>::PublicRecord>) use(table);
+        if constexpr (IsElement<typename std::decay_t<decltype(table)>::PublicRecord>()) use(table);
     });
 }
 

@@ -10,7 +10,7 @@
 namespace tamur::test {
 namespace {
 
-// One in so many. What an import needs at all stands in the first sections: rarely changed.
+// One in so many. What an import needs at all is in the first sections: rarely changed.
 struct Chances {
     int lineReplaced;
     int lineDoubled;
@@ -39,8 +39,8 @@ std::string GeneratedModel(std::uint32_t number)
     LineGenerator random(number);
     std::string out;
     std::string_view text = seeds[number % seeds.size()].text;
-    const std::size_t behindSettings = text.find("#Rigide") + std::string_view("#Rigide\n1").size();
-    const char* const settingsEnd = text.data() + behindSettings;
+    const std::size_t afterSettings = text.find("#Rigide") + std::string_view("#Rigide\n1").size();
+    const char* const settingsEnd = text.data() + afterSettings;
     while (!text.empty()) {
         const std::string_view line = text.substr(0, text.find('\n'));
         const Chances& chances = line.data() < settingsEnd ? kSettings : kContent;

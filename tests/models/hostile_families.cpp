@@ -32,7 +32,7 @@ void AddGroupLoad(std::string& text, const char* kind, const std::string& loadCa
     Add(text, {kind, "1 0 0 0 0 0 0", loadCase, Number(value), "0 0 2", group});
 }
 
-// As many copies of `piece` as make up a line of the greatest length, behind `start`.
+// As many copies of `piece` as make up a line of the greatest length, after `start`.
 void AddLongLine(std::string& text, std::string_view start, std::string_view piece)
 {
     const std::size_t begin = text.size();
@@ -52,7 +52,7 @@ void AddCopies(std::string& text, int count, std::string_view piece)
     for (int i = 0; i < count; ++i) text += piece;
 }
 
-// A line for each number from `first` to `last`, with the same columns behind it.
+// A line for each number from `first` to `last`, with the same columns after it.
 void AddNumbered(std::string& text, int first, int last, std::string_view columns)
 {
     for (int i = first; i <= last; ++i) Add(text, {Number(i), columns});

@@ -8,7 +8,7 @@ namespace tamur::bench {
 
 struct HostileFamily {
     const char* name;
-    // Builds the sections of a file of that size; the settings stand before them.
+    // Builds the sections of a file of that size; the settings are before them.
     void (*write)(std::string& text, int size);
     int size;  // takes some tens of milliseconds
 };

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "changed_models/changes.h"
+#include "models/changes.h"
 #include "models/seeds.h"
 #include "models/generated.h"
 

@@ -53,11 +53,7 @@ TemporaryFile::~TemporaryFile()
 
 HRESULT ImportFile(ITAMURStructureReader& reader, const std::filesystem::path& path)
 {
-#ifdef _WIN32
-    const String name(path.c_str());
-#else
-    const String name(path.u16string().c_str());
-#endif
+    const String name(path.string<OLECHAR>().c_str());
     return reader.Import(name.Get());
 }
 

@@ -27,7 +27,7 @@ class ModelText {
     {
         return Section("#Elements", lines);
     }
-    // Text as it stands, without a line end.
+    // Text as it is, without a line end.
     ModelText& Raw(std::string_view text);
 
     // The text with "\n" line ends.

@@ -1,17 +1,11 @@
 // Model files that are hard to open.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 #include "support/model_text.h"
-
-#ifndef _WIN32
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
 
 namespace tamur::test {
 
@@ -41,7 +35,9 @@ class NamedFile {
 // An importable file whose path has more than 260 characters; no name in it has more than 255.
 class LongPathFile {
  public:
-    LongPathFile() : file_(ModelText().Text()), directory_(file_.Path())
+    // `unlimited` is what a path has to start with to be taken at any length.
+    explicit LongPathFile(std::string_view unlimited = {})
+        : file_(ModelText().Text()), directory_(file_.Path()), unlimited_(unlimited)
     {
         directory_ += std::string(200, 'd');
         path_ = directory_ / std::string(100, 'f');
@@ -60,60 +56,16 @@ class LongPathFile {
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
  private:
-    // The form that Windows takes at any length.
-    static std::filesystem::path Unlimited(const std::filesystem::path& path)
+    [[nodiscard]] std::filesystem::path Unlimited(const std::filesystem::path& path) const
     {
-#ifdef _WIN32
-        return L"\\\\?\\" + path.native();
-#else
-        return path;
-#endif
+        std::filesystem::path whole = unlimited_;
+        return whole += path;
     }
 
     TemporaryFile file_;
     std::filesystem::path directory_;
+    std::filesystem::path unlimited_;
     std::filesystem::path path_;
-};
-
-// While it lives, the file cannot be opened: it is locked on Windows, elsewhere nobody has the
-// permission to read it.
-class WithheldFile {
- public:
-    explicit WithheldFile(const std::filesystem::path& path)
-    {
-#ifdef _WIN32
-        handle_ = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        isWithheld_ = handle_ != INVALID_HANDLE_VALUE;
-#else
-        // Root may read everything, so it becomes a user that may not.
-        constexpr uid_t kNobody = 65534;
-        isWithheld_ = chmod(path.c_str(), 0) == 0 && (user_ != 0 || seteuid(kNobody) == 0);
-#endif
-    }
-    WithheldFile(const WithheldFile&) = delete;
-    WithheldFile& operator=(const WithheldFile&) = delete;
-    ~WithheldFile()
-    {
-#ifdef _WIN32
-        CloseHandle(handle_);
-#else
-        if (seteuid(user_) != 0) std::abort();  // the tests that follow would run as nobody
-#endif
-    }
-
-    // False where this process may not change its user.
-    [[nodiscard]] bool IsWithheld() const
-    {
-        return isWithheld_;
-    }
-
- private:
-#ifdef _WIN32
-    HANDLE handle_;
-#else
-    uid_t user_ = geteuid();
-#endif
-    bool isWithheld_;
 };
 
 // The current directory, changed while it lives.

@@ -39,7 +39,7 @@ TEST(Info, ShowsSettingsAndExtent)
     }
 }
 
-TEST(Info, FindsTheVersionBehindCarriageReturnsToo)
+TEST(Info, FindsTheVersionAfterCarriageReturnsToo)
 {
     EXPECT_THAT(Info(Sample("hall")), testing::Contains("version 12.2A"));
 }

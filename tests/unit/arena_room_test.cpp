@@ -32,7 +32,7 @@ TEST(ArenaRoom, IsAllOfItThere)
 }
 
 // A block that was filled to its end has no room: the next piece lies in another.
-TEST(ArenaRoom, IsNoneBehindAFullBlock)
+TEST(ArenaRoom, IsNoneAfterAFullBlock)
 {
     for (std::size_t size = 100000; size < 100016; ++size) {
         Arena arena;

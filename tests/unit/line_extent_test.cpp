@@ -64,7 +64,7 @@ TEST(LineExtent, OfLinesThatAreCutAndOfWhatIsLeftOfThem)
     ExpectNext(file, "yyyyy");
 }
 
-// Behind a NUL a line has no text, but it may go on.
+// After a NUL a line has no text, but it may go on.
 TEST(LineExtent, GoesBeyondANul)
 {
     test::MemorySource source(std::string("ab\0cd\nef\0", 9));

@@ -42,7 +42,7 @@ std::vector<std::string> PlainLines(const std::string& bytes)
     return lines;
 }
 
-std::vector<std::string> LinesBehind(ModelFile& file)
+std::vector<std::string> LinesAfter(ModelFile& file)
 {
     std::vector<std::string> lines;
     for (Line line; file.ReadModelLine(line);) lines.emplace_back(line.text);
@@ -60,7 +60,7 @@ void ExpectPlainReading(const std::string& bytes, std::size_t piece)
         const auto found = std::find(lines.begin(), lines.end(), TextOf(header));
         ASSERT_EQ(file.FindSectionHeader(header), found != lines.end()) << TextOf(header);
         const auto after = found == lines.end() ? found : found + 1;
-        ASSERT_EQ(LinesBehind(file), std::vector<std::string>(after, lines.end()));
+        ASSERT_EQ(LinesAfter(file), std::vector<std::string>(after, lines.end()));
     }
 }
 
@@ -114,7 +114,7 @@ TEST(ModelFile, ReadErrorIsTheEndOfTheFile)
     ModelFile file(source);
     EXPECT_FALSE(file.FindSectionHeader(SectionHeader::kCases));
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kServicePack));
-    EXPECT_EQ(LinesBehind(file), std::vector<std::string>{"123"});
+    EXPECT_EQ(LinesAfter(file), std::vector<std::string>{"123"});
 }
 
 TEST(ModelFile, FileThatShrinksEndsWhereItEndsNow)
@@ -124,7 +124,7 @@ TEST(ModelFile, FileThatShrinksEndsWhereItEndsNow)
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kServicePack));
     source.Replace("#SP\n1\n");
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kServicePack));
-    EXPECT_EQ(LinesBehind(file), std::vector<std::string>{"1"});
+    EXPECT_EQ(LinesAfter(file), std::vector<std::string>{"1"});
     source.Replace("");
     EXPECT_FALSE(file.FindSectionHeader(SectionHeader::kServicePack));
 }
@@ -136,7 +136,7 @@ TEST(ModelFile, FileThatGrowsEndsWhereItEndedFirst)
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kServicePack));
     source.Replace("#SP\n1\n2\n3\n#Cas\n");
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kServicePack));
-    EXPECT_EQ(LinesBehind(file), std::vector<std::string>{"1"});
+    EXPECT_EQ(LinesAfter(file), std::vector<std::string>{"1"});
 }
 
 TEST(ModelFile, DataLinesEndAtTheNextHeader)

@@ -31,7 +31,7 @@ void ExpectDecimal(const Written& number)
 const std::string kZeros(500, '0');
 
 // Digits after the point, and zeros before the first other digit, do not make a number smaller.
-TEST(DecimalRange, OverflowIsToldWhateverStandsBehindThePoint)
+TEST(DecimalRange, OverflowIsToldWhateverIsAfterThePoint)
 {
     ExpectDecimal({"1." + kZeros + "e400", Range::kOverflow, kInfinity});
     ExpectDecimal({"9." + std::string(500, '9') + "e400", Range::kOverflow, kInfinity});
@@ -40,7 +40,7 @@ TEST(DecimalRange, OverflowIsToldWhateverStandsBehindThePoint)
     ExpectDecimal({"-1" + kZeros + "." + kZeros, Range::kOverflow, -kInfinity});
 }
 
-TEST(DecimalRange, ZerosBehindThePointCountAgainstTheExponent)
+TEST(DecimalRange, ZerosAfterThePointCountAgainstTheExponent)
 {
     ExpectDecimal({"0." + kZeros + "1", Range::kUnderflow, 0.0});
     ExpectDecimal({"0." + kZeros + "1e100", Range::kUnderflow, 0.0});

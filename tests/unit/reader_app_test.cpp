@@ -8,16 +8,6 @@
 #include "com/module.h"
 #include "server/object_map.h"
 
-#ifdef _WIN32
-#include "server/windows/instance.h"
-
-// The library's resources are the tests' own here.
-HINSTANCE tamur::Instance()
-{
-    return GetModuleHandleW(nullptr);
-}
-#endif
-
 namespace tamur {
 namespace {
 

@@ -226,7 +226,7 @@ TEST(SectionName, OfAnotherFormStaysAsWritten)
                      "i30*1*0.5*20", "h30*1*0.5*20", "t30*2*1*20", "U30*1*0.5*20"});
 }
 
-TEST(SectionName, WithoutDimensionsBehindTheLetterStaysAsWritten)
+TEST(SectionName, WithoutDimensionsAfterTheLetterStaysAsWritten)
 {
     ExpectAsWritten({"T", "I", "H", "TUBE60*3*1*1", "IPE300", "HEA200", "HEB_300", "T*30*2*1*20",
                      "I*30*1*0.5*20", "II30*1*0.5*20"});

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "models/line_generator.h"
+#include "support/effort.h"
 
 namespace tamur {
 namespace {
@@ -57,13 +58,8 @@ bool WordAgrees(StreamScanner& scanner, std::istringstream& stream)
 
 TEST(StreamScanner, ReadsWhatTheStandardStreamReads)
 {
-#ifdef _WIN32
-    constexpr int kLines = 300000;  // streams are slow there, and the library is the same
-#else
-    constexpr int kLines = 2000000;
-#endif
     test::LineGenerator generator(20260101);
-    for (int i = 0; i < kLines; ++i) {
+    for (int i = 0; i < test::kStreamedLines; ++i) {
         const std::string line = generator.Line();
         const Padded padded(line);
         StreamScanner scanner = padded.Scanner();

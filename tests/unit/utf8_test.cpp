@@ -47,7 +47,7 @@ TEST(Utf8, EveryLengthOfCharacterGoesBothWays)
     EXPECT_EQ(FromUtf8(""), WideString());
 }
 
-// Half a pair is no character: a question mark, and what stands beside it stays.
+// Half a pair is no character: a question mark, and what is beside it stays.
 TEST(Utf8, HalvesOfPairsBecomeQuestionMarks)
 {
     for (const WideString& half : std::vector<WideString>{{0xD800}, {0xDBFF}, {0xDC00}, {0xDFFF}}) {

@@ -9,7 +9,7 @@
 
 namespace tamur {
 
-// Kind 2. Needs its own case and every combined case in the case table as it stands: one that is
+// Kind 2. Needs its own case and every combined case in the case table as it is then: one that is
 // missing or disabled disables this case too, and so the combinations further down that use it.
 void ReadCombination(StreamScanner& tokens, std::int32_t caseNumber, Model& model,
                      const ModelFile& file);

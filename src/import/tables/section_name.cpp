@@ -74,7 +74,7 @@ std::string WideTee(const Dimensions& n)
 }
 
 // The part at the end is the narrower one: its thickness and position take part in each half.
-// The right half always has a width: without one the web would stand in the middle.
+// The right half always has a width: without one the web would be in the middle.
 std::string NarrowTee(const Dimensions& n)
 {
     const bool isFlat = IsZero(n.b);

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The length stands in the four bytes before the text; eight keep the text 8-byte aligned.
+// The length is in the four bytes before the text; eight keep the text 8-byte aligned.
 constexpr std::size_t kPrefix = 8;
 
 std::uint32_t& ByteLength(BSTR text)

@@ -1,11 +1,11 @@
-#include "changed_models/changes.h"
+#include "models/changes.h"
 
 #include <utility>
 
 namespace tamur::test {
 namespace {
 
-// Behind "one more" and "one less".
+// After "one more" and "one less".
 constexpr char kBytes[] = {'\0', '\xFF', '\n', '\r', '\x1A', ' ', '#', '-', '9', '.'};
 constexpr std::size_t kByteChanges = 2 + std::size(kBytes);
 

@@ -1,4 +1,4 @@
-// Memory that runs out while the component is registered. Windows only.
+// Memory that runs out while the component is registered.
 #include <gtest/gtest.h>
 
 #include "linked/memory_watch.h"

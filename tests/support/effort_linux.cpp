@@ -1,0 +1,8 @@
+#include "support/effort.h"
+
+namespace tamur::test {
+
+const std::size_t kEvery = 1;
+const int kStreamedLines = 2000000;
+
+}  // namespace tamur::test
