@@ -23,8 +23,9 @@ std::vector<CodeInfo> MakeCodes()
     return codes;
 }
 
-// The text with "{1}" and so on replaced by the values.
-std::string Fill(std::string_view text, const std::vector<std::string>& values)
+// The text with "{1}" and so on replaced by the values, "{0}" by the column.
+std::string Fill(std::string_view text, const std::vector<std::string>& values,
+                 std::string_view column)
 {
     std::string filled;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -33,6 +34,7 @@ std::string Fill(std::string_view text, const std::vector<std::string>& values)
             filled += text[i];
             continue;
         }
+        if (text[i + 1] == '0') filled += column;
         const std::size_t value = static_cast<std::size_t>(text[i + 1] - '1');
         if (value < values.size()) filled += PlainText(values[value]);
         i += 2;
@@ -72,7 +74,8 @@ std::string TextOf(const Finding& finding, Language language)
         }
         text += language == Language::kFrench ? " : " : ": ";
     }
-    return text + Fill(InfoOf(finding.code).texts[static_cast<int>(language)], finding.values);
+    return text + Fill(InfoOf(finding.code).texts[static_cast<int>(language)], finding.values,
+                       finding.column.In(language));
 }
 
 std::string_view NameOf(Severity severity, Language language)

@@ -25,7 +25,7 @@ struct CodeInfo {
     Code code;
     std::string_view name;  // "UnknownHeader"
     Severity severity;
-    // By language. "{1}" is the first value of the finding, "{2}" the second.
+    // By language. "{1}" is the first value of the finding, "{2}" the second, "{0}" its column.
     std::string_view texts[kLanguageCount];
 };
 
@@ -48,6 +48,7 @@ struct Finding {
     Kind kind = Kind::kNone;  // of the record that it is about, and its identifier or number;
     std::int64_t identifier = kNoIdentifier;
     std::vector<std::string> values = {};  // UTF-8, any characters
+    Name column = {};                      // of the line, when it is about one
 
     static constexpr std::int64_t kNoIdentifier = -1;
 };

@@ -22,6 +22,12 @@ void ShowCannotOpen(const std::string& path)
     platform::ShowMessageBox(text.c_str(), caption.c_str());
 }
 
+void Refuse(const std::string& path, Refusal why, ImportObserver* observer)
+{
+    if (observer != nullptr) return observer->OnRefusal(why);
+    ShowCannotOpen(path);
+}
+
 void ReadElements(Model& model, ModelFile& file)
 {
     // Whatever ends the reading, the loads must be whole for the hosts.
@@ -52,20 +58,21 @@ bool ImportModelFile(Model& model, const std::string& path, OpenFiles& leftOpen,
 {
     std::unique_ptr<platform::BlockSource> source = platform::OpenFile(path);
     if (source == nullptr) {
-        ShowCannotOpen(path);
+        Refuse(path, Refusal::kCannotOpen, observer);
         return false;
     }
     ModelFile file(*source, observer);
     ReadVersion(model, file);
     if (!IsVersionSupported(model.version)) {
         source.reset();
-        ShowCannotOpen(path);
+        Refuse(path, Refusal::kVersion, observer);
         return false;
     }
     const bool complete = ReadGlobalSettings(model, file) && ReadGroups(model, file) &&
                           ReadMaterials(model, file) && ReadSectionGeometries(model, file) &&
                           ReadReleases(model, file) && ReadLoadCaseTables(model, file);
     if (!complete) {
+        if (observer != nullptr) observer->OnRefusal(Refusal::kSettings);
         leftOpen.push_back(std::move(source));
         return false;
     }

@@ -19,7 +19,8 @@ using OpenFiles = std::vector<std::unique_ptr<platform::BlockSource>>;
 
 // Reads the file at `path`. False, after a message box, when it cannot be opened or its version
 // is below 10.1; false without one when a section that must be there is missing: what was read
-// by then stays in the model, and the file stays open in `leftOpen`. Throws std::bad_alloc.
+// by then stays in the model, and the file stays open in `leftOpen`. An observer gets the refusal
+// in place of the box. Throws std::bad_alloc.
 bool ImportModelFile(Model& model, const std::string& path, OpenFiles& leftOpen,
                      ImportObserver* observer = nullptr);
 

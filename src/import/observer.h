@@ -1,7 +1,11 @@
-// Who wants to know what the import drops or replaces. The component has no observer.
+// Who follows an import: every line of the file, and what is dropped or replaced. The component
+// has no observer.
 #pragma once
 
 #include <cstdint>
+#include <string_view>
+
+#include "import/file/section_header.h"
 
 namespace tamur {
 
@@ -24,12 +28,34 @@ enum class Finding {
     kListCountIgnored,      // a count that is negative or beyond any line: no values are read
 };
 
+enum class Refusal {
+    kCannotOpen,  // or it is no regular file
+    kVersion,     // none, or below the first that can be read
+    kSettings,    // one of the sections that must be there is missing
+};
+
+// First comes the text of the whole file, then the sections as they are read, each with its lines.
 class ImportObserver {
  public:
     virtual ~ImportObserver() = default;
 
-    // `lineOffset` is where the line starts in the file, in bytes.
-    virtual void OnFinding(Finding finding, std::uint64_t lineOffset) = 0;
+    // The bytes of the file up to Ctrl-Z, in its order and in pieces. Each begins where a line
+    // begins for the import: after a line end, or where a line is cut that is too long.
+    virtual void OnText(std::string_view lines) = 0;
+
+    // The section with that header is read next; `offset` is where the header is in the file.
+    virtual void OnSection(SectionHeader header, std::uint64_t offset) = 0;
+
+    // A line of the section is read next, without its line end: data, or one that is empty and
+    // passed over. With `isCut` the rest of it is the next line. The text ends at its first NUL;
+    // there is one after it, and kScanPadding bytes can be read from there.
+    virtual void OnLine(std::string_view text, bool isCut) = 0;
+
+    // About the line read last.
+    virtual void OnFinding(Finding finding) = 0;
+
+    // Nothing was imported. Takes the place of the message box.
+    virtual void OnRefusal(Refusal why) = 0;
 };
 
 }  // namespace tamur

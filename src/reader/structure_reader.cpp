@@ -19,7 +19,7 @@ HRESULT CTAMURStructureReader::Import(BSTR FileName) noexcept
 {
     return com::Guarded([&] {
         const std::string path = platform::NarrowPath(FileName != nullptr ? FileName : OLESTR(""));
-        return ImportModelFile(model_, path, openFiles_) ? S_OK : E_FAIL;
+        return ImportModelFile(model_, path, openFiles_, observer_) ? S_OK : E_FAIL;
     });
 }
 

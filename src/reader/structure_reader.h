@@ -9,6 +9,10 @@ namespace tamur {
 // Owns the model that was imported and makes the accessors over it.
 class CTAMURStructureReader : public AccessorGetters, public ISupportErrorInfo {
  public:
+    CTAMURStructureReader() = default;
+    // `observer` follows the imports and must outlive them.
+    explicit CTAMURStructureReader(ImportObserver& observer) : observer_(&observer) {}
+
     IUnknown* FindInterface(REFIID riid);
 
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID riid) noexcept override;
@@ -18,6 +22,7 @@ class CTAMURStructureReader : public AccessorGetters, public ISupportErrorInfo {
 
  private:
     OpenFiles openFiles_;
+    ImportObserver* observer_ = nullptr;
 };
 
 }  // namespace tamur

@@ -34,7 +34,7 @@ TEST(FindingCodes, AreUniqueAndSpokenInEveryLanguage)
 TEST(FindingCodes, SayTheSameValuesInEveryLanguage)
 {
     for (const CodeInfo& info : AllCodes()) {
-        for (char value = '1'; value <= '9'; ++value) {
+        for (char value = '0'; value <= '9'; ++value) {
             const std::string mark = {'{', value, '}'};
             EXPECT_EQ(info.texts[0].find(mark) == std::string_view::npos,
                       info.texts[1].find(mark) == std::string_view::npos)

@@ -1,5 +1,5 @@
 // What an import says about lines that it drops, changes or cannot read to their end: to an
-// observer, with the place of the line.
+// observer, after the line.
 #include "import/observer.h"
 
 #include <gmock/gmock.h>
@@ -36,24 +36,22 @@ struct Found {
 
 class Collector final : public ImportObserver {
  public:
-    explicit Collector(const std::string& content) : content_(content) {}
-
-    void OnFinding(Finding finding, std::uint64_t lineOffset) override
-    {
-        const std::size_t begin = static_cast<std::size_t>(lineOffset);
-        found.push_back({finding, content_.substr(begin, content_.find('\n', begin) - begin)});
-    }
+    void OnText(std::string_view) override {}
+    void OnSection(SectionHeader, std::uint64_t) override {}
+    void OnLine(std::string_view text, bool) override { line_ = text; }
+    void OnFinding(Finding finding) override { found.push_back({finding, line_}); }
+    void OnRefusal(Refusal) override {}
 
     std::vector<Found> found;
 
  private:
-    const std::string& content_;
+    std::string line_;
 };
 
 std::vector<Found> FindingsIn(const std::string& content)
 {
     test::MemorySource source(content);
-    Collector collector(content);
+    Collector collector;
     ModelFile file(source, &collector);
     Model model;
     EXPECT_TRUE(ReadGroups(model, file) && ReadMaterials(model, file) &&

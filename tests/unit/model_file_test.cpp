@@ -149,17 +149,31 @@ TEST(ModelFile, DataLinesEndAtTheNextHeader)
     EXPECT_EQ(lines, (std::vector<std::string>{"a", "b"}));
 }
 
-TEST(ModelFile, FindingsCarryTheOffsetOfTheirLine)
+TEST(ModelFile, AnObserverHearsOfTheTextAndThenOfTheLinesThatAreRead)
 {
     struct Notes final : ImportObserver {
-        std::vector<std::uint64_t> offsets;
-        void OnFinding(Finding, std::uint64_t offset) override { offsets.push_back(offset); }
+        std::string text;
+        void OnText(std::string_view lines) override { text += lines; }
+        void OnSection(SectionHeader header, std::uint64_t offset) override
+        {
+            text += "[" + std::to_string(offset) + std::string(TextOf(header)) + "]";
+        }
+        void OnLine(std::string_view line, bool isCut) override
+        {
+            text += isCut ? "<cut>" : "<" + std::string(line) + ">";
+        }
+        void OnFinding(Finding) override { text += "!"; }
+        void OnRefusal(Refusal) override {}
     } notes;
-    test::MemorySource source("#Cas\r\nab\r\ncd");
+    const std::string tooLong(60000, 'x');
+    test::MemorySource source("0\n#Cas\r\nab\r\n\n" + tooLong + "\ncd\x1A\n#Elements\n", 11);
     ModelFile file(source, &notes);
     ASSERT_TRUE(file.FindSectionHeader(SectionHeader::kCases));
     for (Line line; file.ReadDataLine(line);) file.Report(Finding::kUnknownKind);
-    EXPECT_EQ(notes.offsets, (std::vector<std::uint64_t>{6, 10}));
+    EXPECT_EQ(notes.text, "0\n#Cas\r\nab\r\n\n" + tooLong +
+                              "\ncd"
+                              "[2#Cas]<ab>!<><cut>!<" +
+                              tooLong.substr(kLongestLine) + ">!<cd>!");
 }
 
 TEST(Line, HoldsCountsUpToItsLength)

@@ -1,8 +1,7 @@
 #include "check.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
+#include <map>
 #include <vector>
 
 #include "import.h"
@@ -13,29 +12,49 @@ namespace tamur::tool {
 namespace {
 
 struct Noted {
-    std::uint64_t lineOffset;
+    std::uint64_t line;
     Finding finding;
 };
 
 class Notes final : public ImportObserver {
  public:
-    void OnFinding(Finding finding, std::uint64_t lineOffset) override
+    void OnText(std::string_view lines) override
     {
-        noted_.push_back({lineOffset, finding});
+        for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1) {
+            if (at == 0 && size_ != 0 && isCut_) --count_;
+            ++count_;
+            if (lines[at] == '#') headers_[size_ + at] = count_;
+            if (lines.find('\n', at) == lines.npos) break;
+        }
+        isCut_ = !lines.ends_with('\n');
+        size_ += lines.size();
     }
+    void OnSection(SectionHeader, std::uint64_t offset) override { line_ = headers_[offset]; }
+    void OnLine(std::string_view, bool isCut) override
+    {
+        if (!isRest_) ++line_;
+        isRest_ = isCut;
+    }
+    void OnFinding(Finding finding) override { noted_.push_back({line_, finding}); }
+    void OnRefusal(Refusal) override {}
 
     // In the order of the file; the sections are not read in that order.
     [[nodiscard]] std::vector<Noted> InFileOrder() const
     {
         std::vector<Noted> sorted = noted_;
-        std::stable_sort(sorted.begin(), sorted.end(), [](const Noted& a, const Noted& b) {
-            return a.lineOffset < b.lineOffset;
-        });
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [](const Noted& a, const Noted& b) { return a.line < b.line; });
         return sorted;
     }
 
  private:
     std::vector<Noted> noted_;
+    std::map<std::uint64_t, std::uint64_t> headers_;  // from their places to their lines
+    std::uint64_t size_ = 0;                          // of the text
+    std::uint64_t count_ = 0;                         // of its lines
+    bool isCut_ = false;
+    std::uint64_t line_ = 0;
+    bool isRest_ = false;
 };
 
 const char* TextOf(Finding finding)
@@ -64,28 +83,6 @@ const char* TextOf(Finding finding)
     return "";
 }
 
-// Counts the lines of a file up to ascending offsets.
-class LineCounter {
- public:
-    explicit LineCounter(const std::string& file)
-        : stream_(std::filesystem::path(std::u8string(file.begin(), file.end())), std::ios::binary)
-    {
-    }
-
-    std::uint64_t LineAt(std::uint64_t offset)
-    {
-        for (; offset_ < offset; ++offset_) {
-            if (stream_.get() == '\n') ++line_;
-        }
-        return line_;
-    }
-
- private:
-    std::ifstream stream_;
-    std::uint64_t offset_ = 0;
-    std::uint64_t line_ = 1;
-};
-
 }  // namespace
 
 std::size_t WriteCheck(const std::string& file, std::ostream& out)
@@ -98,9 +95,8 @@ std::size_t WriteCheck(const std::string& file, std::ostream& out)
         throw ImportRefused("changed while it was read");
     }
     const std::vector<Noted> findings = notes.InFileOrder();
-    LineCounter lines(file);
     for (const Noted& noted : findings) {
-        out << "line " << lines.LineAt(noted.lineOffset) << ": " << TextOf(noted.finding) << '\n';
+        out << "line " << noted.line << ": " << TextOf(noted.finding) << '\n';
     }
     return findings.size();
 }

@@ -52,7 +52,9 @@ bool ModelFile::FindSectionHeader(SectionHeader header)
     const std::uint64_t offset = headers_[static_cast<std::size_t>(header)];
     Seek(std::min(offset, fileEnd_));
     Line line;
-    return ReadModelLine(line);
+    if (!ReadModelLine(line)) return false;
+    if (observer_ != nullptr) observer_->OnSection(header, offset);
+    return true;
 }
 
 bool ModelFile::ReadModelLine(Line& line)
@@ -62,7 +64,6 @@ bool ModelFile::ReadModelLine(Line& line)
         return ReadUnusualLine(line);
     }
     line.text = next_;
-    lineOffset_ = OffsetOf(next_);
     next_ = end + 1;
     if (end != line.text && end[-1] == '\r') --end;
     *end = '\0';
@@ -77,7 +78,6 @@ bool ModelFile::ReadUnusualLine(Line& line)
     line = Line();
     if (next_ == filled_) return false;
     const Extent extent = MeasureLine(next_, filled_);
-    lineOffset_ = OffsetOf(next_);
     const bool isCut = extent.text == extent.next && next_ + extent.next != filled_;
     if (isCut) {
         // What follows in the buffer is the next line: the NUL needs a place of its own.
@@ -94,12 +94,26 @@ bool ModelFile::ReadUnusualLine(Line& line)
     return true;
 }
 
+bool ModelFile::ReadSettingLine(Line& line)
+{
+    if (!ReadModelLine(line)) return false;
+    if (observer_ != nullptr) Announce(line);
+    return true;
+}
+
 bool ModelFile::ReadDataLine(Line& line)
 {
     do {
-        if (!ReadModelLine(line)) return false;
+        if (!ReadModelLine(line) || line.IsHeader()) return false;
+        if (observer_ != nullptr) Announce(line);
     } while (line.IsEmpty());
-    return !line.IsHeader();
+    return true;
+}
+
+void ModelFile::Announce(const Line& line) const
+{
+    const bool isCut = line.text == cutLine_.get();
+    observer_->OnLine({line.text, static_cast<std::size_t>(line.end - line.text)}, isCut);
 }
 
 // [begin, end) reaches to the end of the file or for kLookAhead bytes, and is not empty.
@@ -146,6 +160,9 @@ void ModelFile::IndexBuffer()
             if (at == begin || at[-1] == '\n') NoteHeader(at, end);
         }
         next_ += end - begin;
+        if (observer_ != nullptr) {
+            observer_->OnText({begin, static_cast<std::size_t>(end - begin)});
+        }
     }
 }
 

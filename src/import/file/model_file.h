@@ -43,8 +43,12 @@ class ModelFile {
         return FindSectionHeader(plain) || FindSectionHeader(accented);
     }
 
-    // Reads the next line. False at the end of the file, with an empty line.
+    // Reads the next line, which an observer does not hear of. False at the end of the file, with
+    // an empty line.
     bool ReadModelLine(Line& line);
+
+    // Reads the line after the header of a setting, whatever it is.
+    bool ReadSettingLine(Line& line);
 
     // Reads the next line of the section that holds data: empty lines are passed over, a header
     // or the end of the file ends the section.
@@ -53,7 +57,7 @@ class ModelFile {
     // Tells the observer, if there is one, about the line read last.
     void Report(Finding finding) const
     {
-        if (observer_ != nullptr) observer_->OnFinding(finding, lineOffset_);
+        if (observer_ != nullptr) observer_->OnFinding(finding);
     }
 
  private:
@@ -66,6 +70,7 @@ class ModelFile {
 
     [[nodiscard]] static Extent MeasureLine(const char* begin, const char* end);
     bool ReadUnusualLine(Line& line);
+    void Announce(const Line& line) const;  // to the observer
     void IndexHeaders();
     void IndexBuffer();
     void NoteHeader(const char* begin, const char* end);
@@ -88,7 +93,6 @@ class ModelFile {
     char* filled_;
     std::uint64_t fileOffset_ = 0;     // of filled_
     std::uint64_t fileEnd_ = kAbsent;  // of the text, once it was seen
-    std::uint64_t lineOffset_ = 0;
 
     bool isIndexed_ = false;
     std::array<std::uint64_t, kSectionHeaders.size()> headers_;

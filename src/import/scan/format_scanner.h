@@ -17,6 +17,9 @@ class FormatScanner {
 
     [[nodiscard]] bool Failed() const { return at_ == nullptr; }
 
+    // Where the next column is looked for; null once a conversion failed.
+    [[nodiscard]] const char* Place() const { return at_; }
+
     // "%d". Numbers beyond 32 bits are clamped.
     FormatScanner& operator>>(std::int32_t& value);
 

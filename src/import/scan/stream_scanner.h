@@ -26,6 +26,9 @@ class StreamScanner {
 
     [[nodiscard]] bool Failed() const { return end_ == kNothing; }
 
+    // Where the next token is looked for, at most the end; means nothing once a token failed.
+    [[nodiscard]] const char* Place() const { return at_ < end_ ? at_ : end_; }
+
     // How many characters are left.
     [[nodiscard]] std::size_t Left() const
     {

@@ -13,7 +13,7 @@ bool ReadValue(ModelFile& file, SectionHeader header, T& value)
 {
     if (!file.FindSectionHeader(header)) return false;
     Line line;
-    file.ReadModelLine(line);
+    file.ReadSettingLine(line);
     FormatScanner(line.text) >> value;
     return true;
 }
@@ -34,11 +34,11 @@ bool ReadVersion(Model& model, ModelFile& file)
     constexpr std::size_t kLongestVersion = 255;
     model.version.clear();
     Line line;
-    if (file.FindSectionHeader(SectionHeader::kVersion) && file.ReadModelLine(line)) {
+    if (file.FindSectionHeader(SectionHeader::kVersion) && file.ReadSettingLine(line)) {
         model.version.assign(line.text, strnlen(line.text, kLongestVersion));
     }
     model.servicePack = -1;
-    if (file.FindSectionHeader(SectionHeader::kServicePack) && file.ReadModelLine(line) &&
+    if (file.FindSectionHeader(SectionHeader::kServicePack) && file.ReadSettingLine(line) &&
         !line.IsEmpty()) {
         model.servicePack = 0;
         FormatScanner(line.text) >> model.servicePack;

@@ -1,0 +1,182 @@
+#include "host/file/line_findings.h"
+
+#include <algorithm>
+
+#include "host/file/texts.h"
+
+namespace tamur::host {
+namespace {
+
+using Values = std::vector<std::string>;
+
+// Short lines that are held until it is known whether all of their kind are so.
+constexpr std::size_t kMostHeld = 1000;
+
+Code CodeOf(const Problem& problem, Kind kind)
+{
+    switch (problem.what) {
+        case Problem::What::kTextInNumber: return Code::kBlankInText;
+        case Problem::What::kListEnds: return Code::kListShort;
+        case Problem::What::kDecimalComma: return Code::kDecimalComma;
+        case Problem::What::kGlued: return Code::kColumnSplit;
+        case Problem::What::kWordCut: return Code::kWordCut;
+        case Problem::What::kLeftOver: return Code::kTextLeftOver;
+        case Problem::What::kImpossibleCount:
+        case Problem::What::kNegativeCount: return Code::kCountIgnored;
+        case Problem::What::kUnended:
+            return kind == Kind::kSeismicCase ? Code::kSpectrumUnended : Code::kCombinationUnended;
+        default: return Code::kUnreadableColumn;
+    }
+}
+
+Code CodeOf(Oddity::What what)
+{
+    switch (what) {
+        case Oddity::What::kLowByte: return Code::kCutToByte;
+        case Oddity::What::kClamped: return Code::kClamped;
+        case Oddity::What::kNegative: return Code::kNegativeUnsigned;
+        case Oddity::What::kInfinite: return Code::kInfinite;
+        default: return Code::kUnknownCode;
+    }
+}
+
+}  // namespace
+
+std::string SpokenLine::TextOf(Span span) const
+{
+    return AnsiToUtf8(text.substr(span.begin, span.end - span.begin));
+}
+
+Finding SpokenLine::Of(Finding finding) const
+{
+    if (finding.place.line == 0) finding.place.line = line;
+    finding.kind = kind;
+    finding.identifier = identifier;
+    return finding;
+}
+
+template <class MakeValues>
+void LineFindings::Report(Code code, const SpokenLine& line, Span span, const Column* column,
+                          MakeValues values)
+{
+    if (!findings_.Holds(code)) return findings_.Count(code);
+    Finding finding = {.code = code, .place = line.PlaceOf(span), .values = values()};
+    if (column != nullptr) finding.column = column->name;
+    findings_.Add(line.Of(std::move(finding)));
+}
+
+void LineFindings::Add(const SpokenLine& line, const WalkedLine& walked,
+                       const ReferenceCounts& counts)
+{
+    AddUtf8(line, walked);
+    if (walked.problem.what == Problem::What::kEnds) return AddEnd(line, walked.problem);
+    if (walked.problem.what != Problem::What::kNone) return AddProblem(line, walked);
+    for (const Oddity& oddity : walked.oddities) AddOddity(line, oddity);
+    AddReferences(line, walked, counts);
+}
+
+void LineFindings::AddProblem(const SpokenLine& line, const WalkedLine& walked)
+{
+    const Problem& problem = walked.problem;
+    const Code code = CodeOf(problem, line.kind);
+    Report(code, line, problem.text, problem.column, [&]() -> Values {
+        switch (code) {
+            case Code::kListShort:
+                return {std::to_string(problem.announced), std::to_string(problem.held)};
+            case Code::kCombinationUnended: return {std::to_string(walked.listCount)};
+            default:
+                return {
+                    line.TextOf(problem.text),
+                    line.TextOf({problem.text.begin, std::max(problem.read, problem.text.begin)})};
+        }
+    });
+}
+
+void LineFindings::AddEnd(const SpokenLine& line, const Problem& problem)
+{
+    Ends& ends = ends_[{line.kind, problem.column}];
+    ++ends.count;
+    if (ends.findings.size() == kMostHeld) return;
+    ends.findings.push_back(line.Of({.code = Code::kLineEndsEarly,
+                                     .place = line.PlaceOf(problem.text),
+                                     .column = problem.column->name}));
+}
+
+// An unknown code is said once of a column: it may be the rule in a file.
+void LineFindings::AddOddity(const SpokenLine& line, const Oddity& oddity)
+{
+    const Code code = CodeOf(oddity.what);
+    if (code == Code::kUnknownCode && !unknownCodes_.insert({line.kind, oddity.column}).second) {
+        return;
+    }
+    Report(code, line, oddity.text, oddity.column, [&]() -> Values {
+        return {line.TextOf(oddity.text), std::to_string(oddity.value)};
+    });
+}
+
+// An empty table is said once, at the end.
+void LineFindings::AddReferences(const SpokenLine& line, const WalkedLine& walked,
+                                 const ReferenceCounts& counts)
+{
+    const auto isAsBefore = [&](const Reference& reference) {
+        const auto same = [&](const Reference& other) {
+            return other.column->role == reference.column->role &&
+                   (other.number == reference.number);
+        };
+        return &*std::find_if(walked.references.begin(), walked.references.end(), same) !=
+               &reference;
+    };
+    bool usesMaterial = false, usesSection = false, usesRelease = false;
+    for (const Reference& reference : walked.references) {
+        const Role role = reference.column->role;
+        const std::uint64_t count = role == Role::kMaterial  ? counts.materials
+                                    : role == Role::kSection ? counts.sections
+                                                             : counts.releases;
+        bool& usesNone = role == Role::kMaterial  ? usesMaterial
+                         : role == Role::kSection ? usesSection
+                                                  : usesRelease;
+        usesNone = usesNone || count == 0;
+        const bool isThere =
+            reference.number >= 1 && static_cast<std::uint64_t>(reference.number) <= count;
+        if (count == 0 || isThere || isAsBefore(reference)) continue;
+        const Code code = role == Role::kMaterial  ? Code::kNoSuchMaterial
+                          : role == Role::kSection ? Code::kNoSuchSection
+                                                   : Code::kNoSuchRelease;
+        Report(code, line, reference.text, reference.column,
+               [&]() -> Values { return {std::to_string(reference.number)}; });
+    }
+    defaultMaterialUsers_ += usesMaterial ? 1 : 0;
+    defaultSectionUsers_ += usesSection ? 1 : 0;
+    noReleaseUsers_ += usesRelease ? 1 : 0;
+}
+
+// The whole file is, if one text is.
+void LineFindings::AddUtf8(const SpokenLine& line, const WalkedLine& walked)
+{
+    if (hasUtf8_ || walked.utf8.end == 0) return;
+    hasUtf8_ = true;
+    Report(Code::kUtf8Text, line, walked.utf8, nullptr, [&]() -> Values {
+        return {
+            std::string(line.text.substr(walked.utf8.begin, walked.utf8.end - walked.utf8.begin))};
+    });
+}
+
+void LineFindings::Finish(const Balance& balance)
+{
+    for (auto& [where, ends] : ends_) {
+        const std::uint64_t lines = balance.Of(where.first).records;
+        if (where.first != Kind::kNone && lines > 1 && ends.count == lines) {
+            Finding absent = std::move(ends.findings.front());
+            absent.code = Code::kColumnsAbsent;
+            absent.identifier = Finding::kNoIdentifier;
+            absent.values = {std::to_string(lines)};
+            findings_.Add(std::move(absent));
+            continue;
+        }
+        const std::uint64_t unheld = ends.count - ends.findings.size();
+        for (Finding& finding : ends.findings) findings_.Add(std::move(finding));
+        for (std::uint64_t i = 0; i < unheld; ++i) findings_.Count(Code::kLineEndsEarly);
+    }
+}
+
+}  // namespace tamur::host

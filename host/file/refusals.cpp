@@ -1,0 +1,74 @@
+#include "host/file/refusals.h"
+
+#include <cstdlib>
+#include <regex>
+
+#include "host/file/header_names.h"
+
+namespace tamur::host {
+namespace {
+
+// A needed section is not there: because of what happened to the whole file, or to its header.
+Finding FindingOfMissing(SectionHeader header, const FileScan& scan, const FileTail& tail)
+{
+    const std::string text(PlainTextOf(header));
+    if (!tail.error.empty()) return ReadErrorAt(scan, tail);
+    if (scan.IsUtf16()) return {.code = Code::kUtf16, .place = {.line = 1}};
+    const auto& near = scan.NearOf(header);
+    if (near && !(scan.HasByteOrderMark() && near->place.line == 1)) {
+        return {.code = Code::kSettingMisspelt, .place = near->place, .values = {near->text, text}};
+    }
+    if (scan.HasByteOrderMark()) return {.code = Code::kByteOrderMark, .place = {.line = 1}};
+    if (tail.dataLines > 0) return TextAfterEnd(scan, tail);
+    if (header == SectionHeader::kVersion) return {.code = Code::kNoVersion};
+    return {.code = Code::kSettingMissing, .values = {text}};
+}
+
+// The version is below 10.1 as text; as a number it need not be.
+Finding FindingOfVersion(const FileScan& scan, const std::string& version)
+{
+    const double number = std::strtod(version.c_str(), nullptr);
+    const bool isWritten = !version.empty() && version[0] >= '0' && version[0] <= '9';
+    const Code code = isWritten && number < 10.1 ? Code::kVersionTooOld : Code::kVersionUnreadable;
+    const std::uint32_t line = scan.Of(SectionHeader::kVersion).line + 1;
+    return {.code = code, .place = {.line = line}, .values = {version}};
+}
+
+}  // namespace
+
+Finding ReadErrorAt(const FileScan& scan, const FileTail& tail)
+{
+    return {.code = Code::kReadError,
+            .place = {.line = scan.Lines()},
+            .values = {std::to_string(scan.Lines()), tail.error}};
+}
+
+Finding TextAfterEnd(const FileScan& scan, const FileTail& tail)
+{
+    return {.code = Code::kTextAfterEnd,
+            .place = {.line = scan.Lines()},
+            .values = {std::to_string(tail.dataLines)}};
+}
+
+bool IsUsualVersion(const std::string& version)
+{
+    static const std::regex usual("[0-9]{2}\\.[0-9]+[A-Za-z]?[0-9]*\\s*");
+    return version.size() < 32 && std::regex_match(version, usual);
+}
+
+Finding FindingOf(Refusal refusal, const FileScan& scan, const FileTail& tail,
+                  const std::string& version)
+{
+    if (refusal == Refusal::kVersion) {
+        return scan.Has(SectionHeader::kVersion)
+                   ? FindingOfVersion(scan, version)
+                   : FindingOfMissing(SectionHeader::kVersion, scan, tail);
+    }
+    for (const SectionHeader header :
+         {SectionHeader::kWorkSpace, SectionHeader::kTolerance, SectionHeader::kRigidity}) {
+        if (!scan.Has(header)) return FindingOfMissing(header, scan, tail);
+    }
+    return ReadErrorAt(scan, tail);
+}
+
+}  // namespace tamur::host

@@ -1,0 +1,15 @@
+// Texts of model files, which are in the ANSI code page, for people.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tamur::host {
+
+// The first characters of the text, enough of them to show; up to its first NUL.
+[[nodiscard]] std::string AnsiToUtf8(std::string_view text);
+
+// Whether the text has characters beyond ASCII and all of them are UTF-8.
+[[nodiscard]] bool LooksLikeUtf8(std::string_view text);
+
+}  // namespace tamur::host

@@ -1,0 +1,15 @@
+// A reader whose imports are followed, for hosts that have the component linked in.
+#pragma once
+
+#include <TAMURReader.h>
+#include <tamur/com_ptr.h>
+
+#include "import/observer.h"
+
+namespace tamur {
+
+// Shows no message box: the observer, which must outlive the imports, gets the refusals. Throws
+// std::bad_alloc.
+[[nodiscard]] ComPtr<ITAMURStructureReader> NewObservedReader(ImportObserver& observer);
+
+}  // namespace tamur
