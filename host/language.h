@@ -2,10 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string_view>
 
 namespace tamur::host {
 
 enum class Language : std::uint8_t { kEnglish, kFrench };
 inline constexpr int kLanguageCount = 2;
+
+// Of "en", "fr", and of names of locales that begin so: "fr_FR.UTF-8", "fr-CA".
+[[nodiscard]] std::optional<Language> ParseLanguage(std::string_view name);
+
+// The user's; English when theirs is not spoken.
+[[nodiscard]] Language LanguageOfLocale();
 
 }  // namespace tamur::host
