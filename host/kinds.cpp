@@ -71,6 +71,15 @@ std::string_view TableNameOf(Kind kind)
     return RowOf(kind).table;
 }
 
+Kind KindOfTable(std::string_view name)
+{
+    if (name.empty()) return Kind::kNone;
+    for (const Row& row : kRows) {
+        if (row.table == name) return row.kind;
+    }
+    return Kind::kNone;
+}
+
 int ElementNumberOf(Kind kind)
 {
     return RowOf(kind).number;

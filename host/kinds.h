@@ -47,6 +47,9 @@ inline constexpr int kKindCount = static_cast<int>(Kind::kConstructionLine) + 1;
 // The name of its table in the contract, "Filaires". Empty for kNone and kModes, which have none.
 [[nodiscard]] std::string_view TableNameOf(Kind kind);
 
+// The kind of the records in the table of that name; kNone when there is none.
+[[nodiscard]] Kind KindOfTable(std::string_view name);
+
 // The number that begins the lines of an element; 0 for what is no element.
 [[nodiscard]] int ElementNumberOf(Kind kind);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace tamur::host {
@@ -18,5 +19,11 @@ struct Name {
         return texts[static_cast<int>(language)];
     }
 };
+
+// Of "en", "fr", and of names of locales that begin so: "fr_FR.UTF-8", "fr-CA".
+[[nodiscard]] std::optional<Language> ParseLanguage(std::string_view name);
+
+// The user's; English when theirs is not spoken.
+[[nodiscard]] Language LanguageOfLocale();
 
 }  // namespace tamur::host

@@ -10,7 +10,7 @@
 #include <map>
 #include <string>
 
-#include "changed_models/changes.h"
+#include "models/changes.h"
 #include "changed_models/scratch_file.h"
 #include "checked_file.h"
 #include "com/object.h"

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "check.h"
+#include "diff.h"
 #include "dump.h"
 #include "import.h"
 #include "info.h"
@@ -25,6 +26,7 @@ struct CommandLine {
     std::string component;
     std::string file;
     bool isPretty = false;
+    DiffCommand diff;
     void (*write)(const CommandLine& line, ITAMURStructureReader& reader,
                   std::ostream& out) = nullptr;
 };
@@ -70,6 +72,7 @@ std::optional<CommandLine> ReadCommandLine(std::vector<std::string> arguments, s
     addCommand("check", "the lines that the import drops or changes, and why", Check);
     addCommand("dump", "every record as JSON, one per line", Dump)
         ->add_flag("--pretty", line.isPretty, "one value per line");
+    AddDiffCommand(app, line.diff);
 
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
@@ -105,6 +108,7 @@ int RunCommandLine(std::vector<std::string> arguments, std::ostream& out, std::o
         const auto parsed = ReadCommandLine(std::move(arguments), out);
         if (!parsed) return kFine;
         line = *parsed;
+        if (line.diff.isAsked) return RunDiff(line.component, line.diff, out, errors);
         Write(line, out);
         return kFine;
     } catch (const CLI::ParseError& error) {
