@@ -81,6 +81,7 @@ class ImportAudit final : public ImportObserver {
     void FinishSettings();
     void FinishDefaults();
     void FinishBalance(const FileTail& tail);
+    [[nodiscard]] bool IsCutShort() const;
     [[nodiscard]] bool IsExplained(SectionHeader header) const;
 
     Findings& findings_;
