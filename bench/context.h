@@ -25,6 +25,7 @@ struct Context {
 
 // The groups. Each adds its rows to the report.
 void MeasureImport(Context& context);
+void MeasureObserver(Context& context);
 void MeasureMemory(Context& context);
 void MeasureAccessors(Context& context);
 void MeasureScaling(Context& context);

@@ -63,7 +63,7 @@ Finding CaseBook::CombinationOfNoCase(std::int32_t number) const
 void CaseBook::AddLoad(Kind kind, std::int32_t number, std::uint32_t line, std::int64_t identifier)
 {
     Loads& loads = Of(kind);
-    loads.byCase[number].push_back(static_cast<std::uint32_t>(loads.all.size()));
+    loads.byCase[number].all.push_back(static_cast<std::uint32_t>(loads.all.size()));
     loads.all.push_back({line, identifier, {}});
 }
 
@@ -73,16 +73,17 @@ Finding CaseBook::WhyRefused(Kind kind, std::int32_t number, std::uint32_t line)
     const std::string name = std::to_string(number);
     const auto state = states_.find(number);
     if (state == states_.end()) return {.code = Code::kLoadOfNoCase, .values = {name}};
-    if (state->second.disabled && !state->second.values.empty()) {
-        return {.code = *state->second.disabled, .values = state->second.values};
-    }
+    const auto before = loadCauses_.find(number);
+    if (before != loadCauses_.end()) return before->second;
     const auto linesFrom = [&](Kind first) -> std::vector<std::string> {
         const Loads& loads = Of(first);
-        const Load& load = loads.all[loads.byCase.at(number).front()];
+        const Ranks& ranks = loads.byCase.at(number);
+        const Load& load = loads.all[ranks.all[ranks.first]];
         return {name, std::to_string(load.line), std::to_string(line)};
     };
     if (state->second.type == kStatic) {
-        if (Of(kind).byCase.at(number).size() > 1) {
+        const Ranks& ranks = Of(kind).byCase.at(number);
+        if (ranks.all.size() - ranks.first > 1) {
             return {.code = Code::kLoadsDiffer, .values = linesFrom(kind)};
         }
         if (Of(OtherOf(kind)).byCase.contains(number)) {
@@ -108,21 +109,23 @@ Finding CaseBook::RefuseLoad(Kind kind, std::int32_t number, std::uint32_t line,
     Finding why = WhyRefused(kind, number, line);
     Loads& own = Of(kind);
     const auto ofCase = own.byCase.find(number);
-    own.all[ofCase->second.back()].removed = why.code;
-    ofCase->second.pop_back();
-    for (const std::uint32_t rank : ofCase->second) Remove(kind, own.all[rank], why, findings);
+    Ranks& ranks = ofCase->second;
+    own.all[ranks.all.back()].removed = why.code;
+    for (std::size_t i = ranks.first; i + 1 < ranks.all.size(); ++i) {
+        Remove(kind, own.all[ranks.all[i]], why, findings);
+    }
     own.byCase.erase(ofCase);
     // Of the other kind only the first goes.
     Loads& others = Of(OtherOf(kind));
     if (const auto other = others.byCase.find(number); other != others.byCase.end()) {
-        Remove(OtherOf(kind), others.all[other->second.front()], why, findings);
-        other->second.pop_front();
-        if (other->second.empty()) others.byCase.erase(other);
+        Ranks& left = other->second;
+        Remove(OtherOf(kind), others.all[left.all[left.first++]], why, findings);
+        if (left.first == left.all.size()) others.byCase.erase(other);
     }
-    if (const auto state = states_.find(number);
-        state != states_.end() && !state->second.disabled) {
+    const auto state = states_.find(number);
+    if (state != states_.end() && !state->second.disabled) {
         state->second.disabled = why.code;
-        state->second.values = why.values;
+        loadCauses_[number] = why;
     }
     return why;
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
 #include <map>
 #include <optional>
 #include <string>
@@ -48,18 +47,22 @@ class CaseBook {
     struct State {
         std::int32_t type = 0;  // of the first
         std::optional<Code> disabled;
-        std::int32_t needed = 0;          // the case for which a combination was skipped,
-        std::int32_t root = 0;            // and the one that is missing in the end
-        std::vector<std::string> values;  // of the finding about the load that disabled it
+        std::int32_t needed = 0;  // the case for which a combination was skipped,
+        std::int32_t root = 0;    // and the one that is missing in the end
     };
     struct Load {
         std::uint32_t line;
         std::int64_t identifier;
         std::optional<Code> removed;
     };
+    // The ranks of the loads of one case that are not removed: from `first` on.
+    struct Ranks {
+        std::vector<std::uint32_t> all;
+        std::size_t first = 0;
+    };
     struct Loads {
         std::vector<Load> all;
-        std::map<std::int32_t, std::deque<std::uint32_t>> byCase;  // ranks of those not removed
+        std::map<std::int32_t, Ranks> byCase;
     };
 
     [[nodiscard]] Loads& Of(Kind kind) { return kind == Kind::kThermalLoad ? thermal_ : weight_; }
@@ -73,6 +76,7 @@ class CaseBook {
 
     std::vector<Case> cases_;
     std::map<std::int32_t, State> states_;
+    std::map<std::int32_t, Finding> loadCauses_;  // of cases that a load disabled
     Loads weight_;
     Loads thermal_;
 };

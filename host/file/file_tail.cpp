@@ -43,6 +43,11 @@ class LineCount {
 
 }  // namespace
 
+std::string ReadErrorText()
+{
+    return ErrorText(EIO);
+}
+
 FileTail ReadTail(const std::string& utf8Path, std::uint64_t offset)
 {
     FileTail tail;
@@ -55,7 +60,7 @@ FileTail ReadTail(const std::string& utf8Path, std::uint64_t offset)
         file.read(piece.data(), piece.size());
         const std::size_t size = static_cast<std::size_t>(file.gcount());
         if (isFirst && size > 0 && piece[0] != '\x1A') {
-            tail.error = ErrorText(EIO);  // it can be read now: something disturbed the import
+            tail.error = ReadErrorText();  // it can be read now: something disturbed the import
             return tail;
         }
         for (std::size_t i = 0; i < size; ++i) count.Add(piece[i], tail);

@@ -15,6 +15,9 @@ struct FileTail {
     std::string error;            // why there is no more text; empty at the end or at Ctrl-Z
 };
 
+// What the system says of a read that failed.
+[[nodiscard]] std::string ReadErrorText();
+
 // `offset` is where the text ended.
 [[nodiscard]] FileTail ReadTail(const std::string& utf8Path, std::uint64_t offset);
 

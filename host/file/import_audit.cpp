@@ -380,7 +380,8 @@ void ImportAudit::Finish(const std::string& path)
         findings_.Add(*whyRefused_);
         return;
     }
-    const FileTail tail = ReadTail(path, scan_.Bytes());
+    FileTail tail = ReadTail(path, scan_.Bytes());
+    if (tail.error.empty() && IsCutShort()) tail.error = ReadErrorText();
     if (refusal_) {
         whyRefused_ = FindingOf(*refusal_, scan_, tail, version_);
         findings_.Add(*whyRefused_);
@@ -393,6 +394,26 @@ void ImportAudit::Finish(const std::string& path)
     FinishSections();
     FinishSettings();
     FinishDefaults();
+}
+
+// Whether less was read than was there when the text was looked at.
+bool ImportAudit::IsCutShort() const
+{
+    for (std::size_t i = 0; i < kSectionHeaders.size(); ++i) {
+        const auto header = static_cast<SectionHeader>(i);
+        const FoundHeader& found = scan_.Of(header);
+        const bool isNeeded = header == SectionHeader::kVersion ||
+                              (!refusal_ && header != SectionHeader::kCaseParameters &&
+                               (PlainOf(header) == header || scan_.Of(PlainOf(header)).line == 0));
+        if (found.line != 0 && isNeeded && !read_.contains(header)) return true;
+        const SectionBalance& section = balance_.sections[i];
+        const std::uint64_t heard = section.empty + section.data;
+        const std::uint64_t wanted = IsSetting(header)
+                                         ? std::min<std::uint64_t>(found.stretch.lines, 1)
+                                         : found.stretch.lines;
+        if (read_.contains(header) && heard < wanted) return true;
+    }
+    return false;
 }
 
 // Cases and loads of which the last line decided, and what is served in another order.
@@ -506,8 +527,10 @@ void ImportAudit::FinishBalance(const FileTail& tail)
         const auto header = static_cast<SectionHeader>(i);
         SectionBalance& section = balance_.Of(header);
         section.inFile = scan_.Of(header).stretch.lines;
-        // Of a setting one line is read at most, of a section that is not read none.
-        const bool isPassedOver = IsSetting(header) || !read_.contains(header);
+        // Of a setting one line is read at most, of a section that is not read none. A file that
+        // could not be read to its end is said to be so.
+        const bool isPassedOver =
+            IsSetting(header) || !read_.contains(header) || !tail.error.empty();
         if (isPassedOver) section.notRead = section.inFile - section.empty - section.data;
     }
 }

@@ -81,6 +81,7 @@ class ImportAudit final : public ImportObserver {
     void FinishSettings();
     void FinishDefaults();
     void FinishBalance(const FileTail& tail);
+    [[nodiscard]] bool IsCutShort() const;
     [[nodiscard]] bool IsExplained(SectionHeader header) const;
 
     Findings& findings_;
@@ -103,8 +104,7 @@ class ImportAudit final : public ImportObserver {
     std::string text_;  // of the current line, when there is something to say about it
     std::uint32_t line_ = 0;
     std::uint32_t column_ = 0;
-    std::uint32_t cutSize_ = 0;   // of the line before, when the current one is its rest
-    bool isBarEndKnown_ = false;  // the version has the five reals at the end of bars
+    std::uint32_t cutSize_ = 0;  // of the line before, when the current one is its rest
 
     std::map<std::int32_t, std::uint32_t> combinations_;  // from the case to the line
     std::uint32_t modesLine_ = 0;

@@ -122,6 +122,7 @@ bool LineWalk::WalkGroup(Scanner& scanner, const ColumnGroup& group, std::int32_
 {
     announced_ = group.times == Times::kOnce || group.times == Times::kRadius ? 0 : times;
     held_ = 0;
+    groupStart_ = scanner.Place();
     const std::int64_t rounds = std::int64_t{times} * group.repeated;
     for (std::int64_t i = 0; i < rounds; ++i, ++held_) {
         for (const Column& column : group.columns) {
@@ -344,7 +345,9 @@ void LineWalk::NoteFailure(const Column& column, const char* place)
     problem.announced = announced_;
     problem.held = held_;
     if (*begin == '\0') {
-        if (column.role == Role::kOptional || column.role == Role::kPassedOver) return;
+        // Of columns that are not read all are there or none; some are others that were moved.
+        if (column.role == Role::kPassedOver) return NoteRest(groupStart_);
+        if (column.role == Role::kOptional) return;
         problem.what = announced_ > 0 ? Problem::What::kListEnds : Problem::What::kEnds;
     } else if (column.role == Role::kPassedOver) {
         return NoteRest(begin);

@@ -128,6 +128,7 @@ class LineWalk {
     const char* end_ = text_;
     WalkedLine line_;
     std::uint8_t group_ = 0;
+    const char* groupStart_ = text_;
     std::int32_t labelCount_ = 0;
     std::int32_t announced_ = 0;  // of the list that is being walked, 0 outside of lists
     std::int32_t held_ = 0;

@@ -12,7 +12,6 @@ namespace {
 Finding FindingOfMissing(SectionHeader header, const FileScan& scan, const FileTail& tail)
 {
     const std::string text(PlainTextOf(header));
-    if (!tail.error.empty()) return ReadErrorAt(scan, tail);
     if (scan.IsUtf16()) return {.code = Code::kUtf16, .place = {.line = 1}};
     const auto& near = scan.NearOf(header);
     if (near && !(scan.HasByteOrderMark() && near->place.line == 1)) {
@@ -59,6 +58,7 @@ bool IsUsualVersion(const std::string& version)
 Finding FindingOf(Refusal refusal, const FileScan& scan, const FileTail& tail,
                   const std::string& version)
 {
+    if (!tail.error.empty()) return ReadErrorAt(scan, tail);
     if (refusal == Refusal::kVersion) {
         return scan.Has(SectionHeader::kVersion)
                    ? FindingOfVersion(scan, version)

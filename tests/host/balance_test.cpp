@@ -24,8 +24,12 @@
 namespace tamur::test {
 namespace {
 
-// A share of the changes that a test takes a few seconds for.
+// A share of the changes that a test takes a few seconds for. Files are slower there.
+#ifdef _WIN32
+constexpr std::size_t kEveryChange = 1999;
+#else
 constexpr std::size_t kEveryChange = 199;
+#endif
 
 // Calls visit(path, what it is) for the samples, the seeds and a share of their changes.
 void ForEachModel(
@@ -256,7 +260,7 @@ TEST(LineWalk, StopsWhereTheImportStops)
         EXPECT_GE(stops + perhaps, ofImport) << what;
         compared += ofImport;
     });
-    EXPECT_GT(compared, 1000);
+    EXPECT_GT(compared, 200);
 }
 
 }  // namespace

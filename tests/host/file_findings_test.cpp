@@ -74,6 +74,23 @@ TEST(FileFindings, BarsEndWithFiveRealsFromVersion122AOn)
     EXPECT_THAT(CheckText(text("12.1")).Codes(), ElementsAre("TMR209"));
 }
 
+// A label with a blank moves the columns into the ones that are not read.
+TEST(FileFindings, SomeOfTheFiveRealsAreTextLeftOver)
+{
+    const auto linesWith = [&](const std::string& label) {
+        return CheckText(ModelText("14.1E")
+                             .Section("#Materiaux", {kMaterial})
+                             .Section("#Geometries", {"S 1 2 3 4 5 6 7 8 9 10 11 0 F"})
+                             .Section("#Attaches", {"E 0 Encastrement - -"})
+                             .Elements({"2 9 0 2 1 0 0 0 6 0 0 " + label +
+                                        " 0 0 0 1 2 0 0 1 1 1 1 1 1 5"})
+                             .Text())
+            .Codes();
+    };
+    EXPECT_THAT(linesWith("P"), IsEmpty());
+    EXPECT_THAT(linesWith("P 2"), ElementsAre("TMR209"));
+}
+
 TEST(FileFindings, ColumnsThatAllLinesLackAreANoteAndOthersAreNot)
 {
     const std::string whole = "4 4 0 1 0 0 0 0 0 0 0 1 1 0 0 1 1 1 0 0 0 0 0 0 0 0 0 0";
