@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <ostream>
+#include <sstream>
 #include <streambuf>
 #include <string>
 #include <vector>
@@ -37,7 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Nowhere nowhere;
     std::ostream out(&nowhere);
     std::ostream errors(&nowhere);
-    const int code = tamur::tool::RunCommandLine(Lines(data, size), out, errors);
+    std::istringstream in;
+    const int code = tamur::tool::RunCommandLine(Lines(data, size), {in, out, errors});
     if (code < 0 || code > 2) std::abort();
     return 0;
 }

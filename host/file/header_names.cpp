@@ -86,6 +86,16 @@ SectionHeader PlainOf(SectionHeader header)
     }
 }
 
+std::string DisplayOf(SectionHeader header)
+{
+    std::string display;
+    for (const char c : TextOf(header)) {
+        constexpr char kAccented = '\x82';
+        display += c == kAccented ? std::string("é") : std::string(1, c);
+    }
+    return display;
+}
+
 std::string_view PlainTextOf(SectionHeader header)
 {
     return tamur::TextOf(PlainOf(header));

@@ -14,6 +14,9 @@ namespace tamur::host {
 // or two. Give it a line that is none itself.
 [[nodiscard]] std::optional<SectionHeader> HeaderMeantBy(std::string_view line);
 
+// As people write it, in UTF-8: "#Matériaux".
+[[nodiscard]] std::string DisplayOf(SectionHeader header);
+
 // "#Materiaux"; the plain spelling of the accented ones too.
 [[nodiscard]] std::string_view PlainTextOf(SectionHeader header);
 

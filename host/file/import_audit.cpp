@@ -449,7 +449,10 @@ void ImportAudit::FinishFile(const FileTail& tail)
         if (!isSaid) findings_.Add(MisspeltHeader(*near, header));
     }
     if (refusal_) return;
-    if (!tail.error.empty()) findings_.Add(ReadErrorAt(scan_, tail));
+    if (!tail.error.empty()) {
+        readError_ = ReadErrorAt(scan_, tail);
+        findings_.Add(*readError_);
+    }
     if (tail.dataLines > 0) findings_.Add(TextAfterEnd(scan_, tail));
     if (scan_.HasByteOrderMark()) {
         findings_.Add({.code = Code::kByteOrderMark, .place = {.line = 1}});

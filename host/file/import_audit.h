@@ -36,6 +36,7 @@ class ImportAudit final : public ImportObserver {
     void Finish(const std::string& path);
 
     [[nodiscard]] const std::optional<Finding>& WhyRefused() const { return whyRefused_; }
+    [[nodiscard]] const std::optional<Finding>& WhyNotWhole() const { return readError_; }
     [[nodiscard]] const std::string& Version() const { return version_; }  // UTF-8
     [[nodiscard]] std::int32_t ServicePack() const { return servicePack_; }
     [[nodiscard]] const Balance& TheBalance() const { return balance_; }
@@ -93,6 +94,7 @@ class ImportAudit final : public ImportObserver {
     RecordLines lines_;
     std::optional<Refusal> refusal_;
     std::optional<Finding> whyRefused_;
+    std::optional<Finding> readError_;
     std::string version_;
     std::int32_t servicePack_ = -1;
 

@@ -19,6 +19,7 @@ ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
     audit.Finish(utf8Path);
     imported.refusal = audit.WhyRefused();
     if (!imported.refusal) imported.reader = reader;
+    imported.readError = audit.WhyNotWhole();
     imported.version = audit.Version();
     imported.servicePack = audit.ServicePack();
     imported.balance = audit.TheBalance();

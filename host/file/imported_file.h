@@ -16,6 +16,7 @@ namespace tamur::host {
 struct ImportedFile {
     ComPtr<ITAMURStructureReader> reader;  // null when the file was refused
     std::optional<Finding> refusal;        // why; it is among the findings too
+    std::optional<Finding> readError;      // why the rest of the file is missing in the model
     std::string version;                   // as written, UTF-8
     std::int32_t servicePack = -1;         // -1 when the file says none
     Balance balance;

@@ -1,6 +1,7 @@
 // How the reader makes its accessors.
 #pragma once
 
+#include <memory>
 #include <utility>
 
 #include "accessors/charge_accessor.h"
@@ -32,9 +33,9 @@ class AccessorMaker : public ITAMURStructureReader {
     {
         if constexpr (kClearsPointer<Interface>) *out = nullptr;
         return com::Guarded([&] {
-            auto* const accessor = new com::CComObject<Class>(std::as_const(model_));
+            auto accessor = std::make_unique<com::CComObject<Class>>(std::as_const(model_));
             accessor->AddRef();
-            *out = accessor;
+            *out = accessor.release();
             return S_OK;
         });
     }

@@ -9,7 +9,7 @@
 #include "linked/memory_limit.h"
 #include "linked/quiet_boxes.h"
 #include "models/changes.h"
-#include "changed_models/scratch_file.h"
+#include "support/scratch_file.h"
 #include "models/seeds.h"
 #include "support/component_under_test.h"
 #include "support/read_everything.h"

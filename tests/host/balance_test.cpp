@@ -11,25 +11,19 @@
 #include <string>
 
 #include "models/changes.h"
-#include "changed_models/scratch_file.h"
+#include "support/scratch_file.h"
 #include "checked_file.h"
 #include "com/object.h"
 #include "host/file/import_audit.h"
 #include "models/seeds.h"
 #include "reader/observed_reader.h"
 #include "reader/structure_reader.h"
+#include "support/effort.h"
 #include "support/message_boxes.h"
 #include "support/read_everything.h"
 
 namespace tamur::test {
 namespace {
-
-// A share of the changes that a test takes a few seconds for. Files are slower there.
-#ifdef _WIN32
-constexpr std::size_t kEveryChange = 1999;
-#else
-constexpr std::size_t kEveryChange = 199;
-#endif
 
 // Calls visit(path, what it is) for the samples, the seeds and a share of their changes.
 void ForEachModel(
@@ -42,7 +36,7 @@ void ForEachModel(
         scratch.Write(seed.text);
         visit(scratch.Path(), seed.name);
         const Changes changes(seed.text);
-        for (; next < changes.Count(); next += kEveryChange) {
+        for (; next < changes.Count(); next += kEveryAuditedChange) {
             scratch.Write(changes.Apply(next));
             visit(scratch.Path(), seed.name + ", change " + std::to_string(next));
         }

@@ -278,15 +278,5 @@ TEST(Refusals, TextAfterCtrlZIsWhyNothingIsThere)
     EXPECT_THAT(CheckText("\x1A" + ModelText().Text()).Codes(), ElementsAre("TMR106"));
 }
 
-#ifndef _WIN32
-// A regular file by its looks, whose first byte cannot be read.
-TEST(Refusals, AFileThatCannotBeRead)
-{
-    const CheckedFile file("/proc/self/mem");
-    EXPECT_THAT(file.Codes(), ElementsAre("TMR006"));
-    EXPECT_THAT(RefusalOf(file), HasSubstr("Input/output error"));
-}
-#endif
-
 }  // namespace
 }  // namespace tamur::test

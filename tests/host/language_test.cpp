@@ -17,18 +17,5 @@ TEST(Languages, AreParsed)
     for (const char* name : {"", "f", "fro", "de", "C", "FR"}) EXPECT_FALSE(ParseLanguage(name));
 }
 
-#ifndef _WIN32
-TEST(Languages, AreThoseOfTheLocale)
-{
-    ASSERT_EQ(setenv("LC_MESSAGES", "fr_FR.UTF-8", 1), 0);
-    ASSERT_EQ(setenv("LC_ALL", "", 1), 0);
-    EXPECT_EQ(LanguageOfLocale(), Language::kFrench);
-    ASSERT_EQ(setenv("LC_ALL", "C", 1), 0);
-    EXPECT_EQ(LanguageOfLocale(), Language::kEnglish);
-    unsetenv("LC_ALL");
-    unsetenv("LC_MESSAGES");
-}
-#endif
-
 }  // namespace
 }  // namespace tamur::host

@@ -52,5 +52,5 @@ int main(int argc, char** argv)
         return 3;
     }
     PrepareStreams();
-    return RunCommandLine(Arguments(argc, argv), std::cout, std::cerr);
+    return RunCommandLine(Arguments(argc, argv), StandardConsole());
 }

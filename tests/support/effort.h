@@ -11,4 +11,7 @@ extern const std::size_t kEvery;
 // Lines that are read by the component's scanner and by the standard stream.
 extern const int kStreamedLines;
 
+// Of the changes of the seed models, every so many is imported with an observer.
+extern const std::size_t kEveryAuditedChange;
+
 }  // namespace tamur::test

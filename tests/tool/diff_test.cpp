@@ -63,7 +63,8 @@ TEST(Diff, TroubleIsToldApartFromDifferences)
     const ToolRun missing = RunTool({"diff", file, "/no/such/model.txt"});
     EXPECT_EQ(missing.exitCode, 2);
     EXPECT_EQ(missing.output, "");
-    EXPECT_EQ(missing.errors, "tamur: /no/such/model.txt: the file cannot be opened\n");
+    EXPECT_EQ(missing.errors,
+              "tamur: /no/such/model.txt: the file cannot be opened: No such file or directory\n");
     const std::vector<std::vector<std::string>> usages = {
         {"diff"},
         {"diff", file},

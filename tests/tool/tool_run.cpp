@@ -35,14 +35,16 @@ std::string ContentOf(const TemporaryFile& file)
 
 }  // namespace
 
-ToolRun RunTool(const std::vector<std::string>& arguments)
+ToolRun RunTool(const std::vector<std::string>& arguments, const std::string& before,
+                const std::string& output)
 {
-    const TemporaryFile output(""), errors("");
-    std::string command = Quoted(TAMUR_TOOL);
+    const TemporaryFile kept(""), errors("");
+    std::string command = before + " " + Quoted(TAMUR_TOOL);
     for (const std::string& argument : arguments) command += " " + Quoted(argument);
-    command += " >" + Quoted(output.Path().string()) + " 2>" + Quoted(errors.Path().string());
+    command += " >" + Quoted(output.empty() ? kept.Path().string() : output);
+    command += " 2>" + Quoted(errors.Path().string());
     const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(output), ContentOf(errors)};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(kept), ContentOf(errors)};
 }
 
 std::string Sample(const std::string& name)

@@ -14,8 +14,10 @@ struct ToolRun {
     std::string errors;
 };
 
-// Runs `tamur` with those arguments.
-ToolRun RunTool(const std::vector<std::string>& arguments);
+// Runs `tamur` with those arguments. `before` is what a shell has in front of it, variables or a
+// command with a pipe; `output` is where it writes instead of into the result.
+ToolRun RunTool(const std::vector<std::string>& arguments, const std::string& before = "",
+                const std::string& output = "");
 
 // The path of a sample, by its name without extension.
 std::string Sample(const std::string& name);

@@ -3,122 +3,145 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <memory>
 #include <new>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "check.h"
-#include "diff.h"
+#include "check/command.h"
+#include "diff/command.h"
 #include "dump.h"
+#include "exit_code.h"
+#include "host/findings/plain_text.h"
 #include "import.h"
 #include "info.h"
+#include "input.h"
 
 namespace tamur::tool {
 namespace {
 
-constexpr int kFine = 0;
-constexpr int kRefused = 1;
-constexpr int kUsage = 2;
-
-struct CommandLine {
+// What `info` and `dump` are told.
+struct Options {
     std::string component;
     std::string file;
     bool isPretty = false;
-    DiffCommand diff;
-    void (*write)(const CommandLine& line, ITAMURStructureReader& reader,
-                  std::ostream& out) = nullptr;
 };
+using Show = void (*)(const Options& options, const Input& input, std::ostream& out);
 
-void Info(const CommandLine& line, ITAMURStructureReader& reader, std::ostream& out)
+void Info(const Options& options, const Input& input, std::ostream& out)
 {
-    WriteInfo(reader, line.file, out);
+    WriteInfo(options.component, input, out);
 }
 
-void Dump(const CommandLine& line, ITAMURStructureReader& reader, std::ostream& out)
+void Dump(const Options& options, const Input& input, std::ostream& out)
 {
-    WriteDump(reader, line.isPretty, out);
+    WriteDump(*Import(options.component, input).reader, options.isPretty, out);
 }
 
-void Check(const CommandLine& line, ITAMURStructureReader&, std::ostream& out)
+// Adds a command that shows one file as the component serves it.
+CLI::App* AddShowCommand(CLI::App& app, Task& task, const std::shared_ptr<Options>& options,
+                         const char* name, const char* description, Show show)
 {
-    const std::size_t findings = WriteCheck(line.file, out);
-    if (findings == 0) out << "nothing was dropped or replaced\n";
+    CLI::App* const command = app.add_subcommand(name, description);
+    command->footer(
+        "Exit codes: 0 fine; 1 the file was not imported; 2 wrong usage, a file that cannot be "
+        "read "
+        "to\nits end, no component, or the output cannot be written.");
+    command->add_option("FILE", options->file, "the model file; - is standard input")
+        ->required()
+        ->type_name("");
+    command->callback([&task, options, show] {
+        task = [options, show](const Console& console) {
+            show(*options, Input(options->file, console.in), console.out);
+            return exit_code::kFine;
+        };
+    });
+    return command;
 }
 
-// Nothing when the command line is answered by itself, by a help text.
-std::optional<CommandLine> ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
+// What the arguments ask for; a help text is written at once.
+Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
 {
-    CommandLine line;
-    CLI::App app("Shows what TAMUR Reader reads from a model file.", "tamur");
+    const auto options = std::make_shared<Options>();
+    CLI::App app("Shows what TAMUR Reader reads from a model file, and what is wrong with it.",
+                 "tamur");
     app.footer(
-        "Exit codes: 0 fine; 1 the file was not imported; 2 wrong usage, the component "
-        "cannot be\nloaded, or the output cannot be written.");
+        "Exit codes: 0 fine; 1 something was found (check), is different (diff), or the file was "
+        "not\nimported (info, dump); 2 trouble. `tamur COMMAND --help` says more.");
     app.set_version_flag("--version", "tamur " TAMUR_VERSION);
-    app.add_option("--component", line.component,
-                   "the component to load, instead of the one beside this program")
+    app.add_option("--component", options->component,
+                   "read the model through this component, not the one that is built in")
         ->type_name("PATH");
     app.require_subcommand(1);
     app.allow_windows_style_options(false);  // paths too may start with a slash
 
-    const auto addCommand = [&](const char* name, const char* description, auto write) {
-        CLI::App* const command = app.add_subcommand(name, description);
-        command->add_option("FILE", line.file, "the model file")->required()->type_name("");
-        command->callback([&line, write] { line.write = write; });
-        return command;
-    };
-    addCommand("info", "settings, extent, how many there are of everything, messages", Info);
-    addCommand("check", "the lines that the import drops or changes, and why", Check);
-    addCommand("dump", "every record as JSON, one per line", Dump)
-        ->add_flag("--pretty", line.isPretty, "one value per line");
-    AddDiffCommand(app, line.diff);
+    Task task = [](const Console&) { return exit_code::kFine; };
+    AddShowCommand(app, task, options, "info",
+                   "settings, extent, how many there are of everything, messages", Info);
+    AddCheckCommand(app, task);
+    AddShowCommand(app, task, options, "dump", "every record as JSON, one per line", Dump)
+        ->add_flag("--pretty", options->isPretty, "one value per line");
+    AddDiffCommand(app, options->component, task);
 
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
         app.parse(arguments);
     } catch (const CLI::Success& answer) {
         app.exit(answer, out, out);
-        return std::nullopt;
     }
-    return line;
+    return task;
 }
 
-void Write(const CommandLine& line, std::ostream& out)
-{
-    const Component component = LoadComponent(line.component);
-    const auto reader = Import(component, line.file);
-    line.write(line, *reader, out);
-    if (!out.flush()) throw std::runtime_error("the output cannot be written");
-}
+// While it lives, the first write that fails throws std::ios_base::failure.
+class StopAtFirstFailure {
+ public:
+    explicit StopAtFirstFailure(std::ostream& out) : out_(out), before_(out.exceptions())
+    {
+        out_.exceptions(std::ios_base::badbit | std::ios_base::failbit);
+    }
+    StopAtFirstFailure(const StopAtFirstFailure&) = delete;
+    StopAtFirstFailure& operator=(const StopAtFirstFailure&) = delete;
+    ~StopAtFirstFailure()
+    {
+        out_.clear();
+        out_.exceptions(before_);
+    }
+
+ private:
+    std::ostream& out_;
+    std::ios_base::iostate before_;
+};
 
 template <class... Parts>
 int Fail(std::ostream& errors, int code, const Parts&... why)
 {
-    ((errors << "tamur: ") << ... << why) << '\n';
+    std::string text;
+    (text.append(why), ...);
+    errors << "tamur: " << host::PlainText(text, text.size()) << '\n';
     return code;
 }
 
 }  // namespace
 
-int RunCommandLine(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors)
+int RunCommandLine(std::vector<std::string> arguments, const Console& console)
 {
-    CommandLine line;
     try {
-        const auto parsed = ReadCommandLine(std::move(arguments), out);
-        if (!parsed) return kFine;
-        line = *parsed;
-        if (line.diff.isAsked) return RunDiff(line.component, line.diff, out, errors);
-        Write(line, out);
-        return kFine;
+        const StopAtFirstFailure stop(console.out);
+        const Task task = ReadCommandLine(std::move(arguments), console.out);
+        const int code = task(console);
+        console.out.flush();
+        return code;
+    } catch (const std::ios_base::failure&) {
+        return Fail(console.errors, exit_code::kTrouble, "the output cannot be written");
     } catch (const CLI::ParseError& error) {
-        return Fail(errors, kUsage, error.what(), " (see tamur --help)");
+        return Fail(console.errors, exit_code::kTrouble, error.what(), " (see tamur --help)");
     } catch (const ImportRefused& error) {
-        return Fail(errors, kRefused, line.file, ": ", error.what());
+        return Fail(console.errors, exit_code::kRefused, error.what());
     } catch (const std::bad_alloc&) {
-        return Fail(errors, kRefused, line.file, ": not enough memory");
+        return Fail(console.errors, exit_code::kRefused, "not enough memory");
     } catch (const std::exception& error) {
-        return Fail(errors, kUsage, line.file, ": ", error.what());
+        return Fail(console.errors, exit_code::kTrouble, error.what());
     }
 }
 

@@ -1,30 +1,37 @@
-// One model file, imported through the component.
+// One model file for a command.
 #pragma once
 
 #include <tamur/component.h>
 
-#include <filesystem>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
+#include "host/findings/findings.h"
+#include "host/record_lines.h"
+#include "input.h"
+
 namespace tamur::tool {
 
-// The file could not be imported; what() says why.
+// A file could not be imported; what() says which and why.
 class ImportRefused : public std::runtime_error {
  public:
+    ImportRefused(const Input& input, const host::Finding& why);
     using std::runtime_error::runtime_error;
 };
 
-// The component of that file, or the one beside the executable when the path is empty. Throws
-// ComponentError.
-[[nodiscard]] Component LoadComponent(const std::string& path);
+struct Imported {
+    std::unique_ptr<Component> component;  // what serves the reader; null: the one built in
+    ComPtr<ITAMURStructureReader> reader;
+    std::string version;  // as written, UTF-8
+    host::RecordLines lines;
+};
 
-// A reader that holds the model of that file (UTF-8). Throws ImportRefused.
-[[nodiscard]] ComPtr<ITAMURStructureReader> Import(const Component& component,
-                                                   const std::string& file);
-
-// The line after the file's first "#Version"; empty when there is none. The interface does not
-// give it.
-[[nodiscard]] std::string VersionOf(const std::string& file);
+// The model of that file, read by the component that is built in, or by the one at that path. What
+// is wrong with the file is added to `findings`. Throws ImportRefused; ComponentError when there is
+// no component; std::runtime_error when a part of the file cannot be read.
+[[nodiscard]] Imported Import(const std::string& componentPath, const Input& input,
+                              host::Findings& findings);
+[[nodiscard]] Imported Import(const std::string& componentPath, const Input& input);
 
 }  // namespace tamur::tool

@@ -4,7 +4,9 @@
 #include <iomanip>
 #include <limits>
 
+#include "host/findings/plain_text.h"
 #include "import.h"
+#include "messages.h"
 #include "tables.h"
 #include <tamur/utf8.h>
 
@@ -77,14 +79,44 @@ void WriteBox(const BoundingBox& box, std::ostream& out)
     Entry(out, "extent in z") << box.low.z << " to " << box.high.z << '\n';
 }
 
+void WriteMessages(ITAMURStructureReader& reader, std::ostream& out)
+{
+    constexpr std::size_t kShown = 10;
+    const MessageList messages = FirstMessages(reader, kShown);
+    for (const CountedMessage& message : messages.first) {
+        Entry(out, "message") << host::PlainText(message.text);
+        if (message.count > 1) out << " (" << message.count << " times)";
+        out << '\n';
+    }
+    if (messages.further != 0) Entry(out, "further messages") << messages.further << '\n';
+}
+
+void WriteFindings(const host::Findings& findings, std::ostream& out)
+{
+    Entry(out, "findings");
+    const char* separator = "";
+    for (const auto severity :
+         {host::Severity::kError, host::Severity::kWarning, host::Severity::kNote}) {
+        const std::size_t count = findings.CountOf(severity);
+        if (count == 0) continue;
+        out << separator << count << ' ' << NameOf(severity, host::Language::kEnglish)
+            << (count > 1 ? "s" : "");
+        separator = ", ";
+    }
+    out << (*separator == '\0' ? "none\n" : " (see tamur check)\n");
+}
+
 }  // namespace
 
-void WriteInfo(ITAMURStructureReader& reader, const std::string& file, std::ostream& out)
+void WriteInfo(const std::string& componentPath, const Input& input, std::ostream& out)
 {
+    host::Findings findings(0);
+    const Imported imported = Import(componentPath, input, findings);
+    ITAMURStructureReader& reader = *imported.reader;
     // Sums of decimal numbers show as they were meant.
     out << std::setprecision(12);
-    Entry(out, "file") << file << '\n';
-    Entry(out, "version") << VersionOf(file) << '\n';
+    Entry(out, "file") << host::PlainText(input.Name(), input.Name().size()) << '\n';
+    Entry(out, "version") << host::PlainText(imported.version) << '\n';
     WriteSettings(StructureData(reader), out);
 
     BoundingBox box;
@@ -103,8 +135,8 @@ void WriteInfo(ITAMURStructureReader& reader, const std::string& file, std::ostr
 
     const int skipped = SkippedCombinations(reader);
     if (skipped != 0) Entry(out, "skipped combinations") << skipped << '\n';
-    VisitMessages(reader,
-                  [&out](WideStringView text) { Entry(out, "message") << ToUtf8(text) << '\n'; });
+    WriteMessages(reader, out);
+    WriteFindings(findings, out);
 }
 
 }  // namespace tamur::tool

@@ -1,13 +1,14 @@
 // `tamur info`: what a model holds, on one screen.
 #pragma once
 
-#include <tamur/component.h>
-
 #include <ostream>
 #include <string>
 
+#include "input.h"
+
 namespace tamur::tool {
 
-void WriteInfo(ITAMURStructureReader& reader, const std::string& file, std::ostream& out);
+// Of the model as the component at that path has it, or the one that is built in.
+void WriteInfo(const std::string& componentPath, const Input& input, std::ostream& out);
 
 }  // namespace tamur::tool

@@ -1,36 +1,11 @@
 #include "json_document.h"
 
+#include "json_text.h"
+
 namespace tamur::tool {
 namespace {
 
 constexpr int kIndent = 2;
-constexpr int kCompact = -1;
-
-// JSON may have them as they are, but terminals obey them: DEL, and U+0080 to U+009F.
-std::string WithoutControls(const std::string& json)
-{
-    constexpr char kLead = '\xC2', kDel = '\x7F';
-    constexpr const char* kDigits = "0123456789abcdef";
-    std::string out;
-    for (std::size_t i = 0; i < json.size(); ++i) {
-        const bool isPair = json[i] == kLead && i + 1 < json.size() &&
-                            static_cast<unsigned char>(json[i + 1]) < 0xA0;
-        if (!isPair && json[i] != kDel) {
-            out += json[i];
-            continue;
-        }
-        const auto code = static_cast<unsigned char>(isPair ? json[++i] : kDel);
-        out += "\\u00";
-        out += {kDigits[code >> 4], kDigits[code & 0xF]};
-    }
-    return out;
-}
-
-std::string TextOf(const Json& value, int indent)
-{
-    // Names of files may be no UTF-8.
-    return WithoutControls(value.dump(indent, ' ', false, Json::error_handler_t::replace));
-}
 
 }  // namespace
 
@@ -66,18 +41,18 @@ void JsonDocument::BeginMember(const char* name)
     out_ << (isFirstMember_ ? "\n" : ",\n");
     isFirstMember_ = false;
     if (isPretty_) out_ << std::string(kIndent, ' ');
-    out_ << Json(name).dump() << (isPretty_ ? ": " : ":");
+    out_ << JsonText(name) << (isPretty_ ? ": " : ":");
 }
 
 void JsonDocument::Write(const Json& value, int depth)
 {
     if (!isPretty_) {
-        out_ << TextOf(value, kCompact);
+        out_ << JsonText(value);
         return;
     }
     // Line feeds within texts are escaped: those that are there are the layout's.
     const std::string margin(static_cast<std::size_t>(depth * kIndent), ' ');
-    for (const char c : TextOf(value, kIndent)) {
+    for (const char c : JsonText(value, kIndent)) {
         out_ << c;
         if (c == '\n') out_ << margin;
     }

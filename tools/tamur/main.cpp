@@ -9,5 +9,5 @@ int main(int argc, char** argv)
     using namespace tamur::tool;
     PrepareStreams();
     std::ios::sync_with_stdio(false);
-    return RunCommandLine(Arguments(argc, argv), std::cout, std::cerr);
+    return RunCommandLine(Arguments(argc, argv), StandardConsole());
 }

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "console.h"
+
 namespace tamur::tool {
 
 // The arguments after the program's name, in UTF-8.
@@ -12,7 +14,11 @@ namespace tamur::tool {
 
 [[nodiscard]] std::filesystem::path ExecutableFolder();
 
-// Makes the standard streams take UTF-8 with plain line feeds.
+// Makes the standard streams take UTF-8 with plain line feeds and, where they are a terminal,
+// colours.
 void PrepareStreams();
+
+// The standard streams.
+[[nodiscard]] Console StandardConsole();
 
 }  // namespace tamur::tool

@@ -1,5 +1,9 @@
 #include "process.h"
 
+#include <unistd.h>
+
+#include <iostream>
+
 namespace tamur::tool {
 
 std::vector<std::string> Arguments(int argc, char** argv)
@@ -13,5 +17,14 @@ std::filesystem::path ExecutableFolder()
 }
 
 void PrepareStreams() {}
+
+Console StandardConsole()
+{
+    return {.in = std::cin,
+            .out = std::cout,
+            .errors = std::cerr,
+            .isOutTerminal = isatty(STDOUT_FILENO) == 1,
+            .isErrorsTerminal = isatty(STDERR_FILENO) == 1};
+}
 
 }  // namespace tamur::tool

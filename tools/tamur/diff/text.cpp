@@ -1,11 +1,11 @@
-#include "diff_text.h"
+#include "text.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <iomanip>
 
-#include "diff_words.h"
+#include "words.h"
 #include "host/findings/plain_text.h"
 
 namespace tamur::tool {

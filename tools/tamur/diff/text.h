@@ -3,7 +3,7 @@
 
 #include <ostream>
 
-#include "diff_result.h"
+#include "result.h"
 #include "host/language.h"
 
 namespace tamur::tool {

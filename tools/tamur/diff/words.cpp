@@ -1,4 +1,4 @@
-#include "diff_words.h"
+#include "words.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,8 +1,8 @@
-#include "diff_json.h"
+#include "json.h"
 
 #include <array>
 
-#include "json_document.h"
+#include "../json_document.h"
 
 namespace tamur::tool {
 namespace {
