@@ -19,8 +19,10 @@ struct Group {
 };
 
 const Group kGroups[] = {
-    {"import", MeasureImport},   {"memory", MeasureMemory},        {"accessors", MeasureAccessors},
-    {"scaling", MeasureScaling}, {"hostile", MeasureHostileFiles}, {"threads", MeasureThreads},
+    {"import", MeasureImport},        {"memory", MeasureMemory},
+    {"accessors", MeasureAccessors},  {"scaling", MeasureScaling},
+    {"hostile", MeasureHostileFiles}, {"repeated", MeasureRepeatedImports},
+    {"threads", MeasureThreads},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory

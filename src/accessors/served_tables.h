@@ -38,8 +38,8 @@ inline auto See(As<TMRLine>, const Model& m) { return LiveView(m, m.construction
 inline auto See(As<TMRChargePonctuelle>, const Model& m) { return LiveView(m, m.pointLoads); }
 inline auto See(As<TMRChargeLineaire>, const Model& m) { return LiveView(m, m.lineLoads); }
 inline auto See(As<TMRChargeSurfacique>, const Model& m) { return LiveView(m, m.surfaceLoads); }
-inline auto See(As<TMRChargePoidsPropre>, const Model& m) { return LiveView(m, m.selfWeightLoads.Loads()); }
-inline auto See(As<TMRChargeThermique>, const Model& m) { return LiveView(m, m.thermalLoads.Loads()); }
+inline auto See(As<TMRChargePoidsPropre>, const Model& m) { return LiveView(m, m.selfWeightLoads); }
+inline auto See(As<TMRChargeThermique>, const Model& m) { return LiveView(m, m.thermalLoads); }
 inline auto See(As<TMRChargeSismique>, const Model& m) { return LiveView(m, m.seismicCases); }
 inline auto See(As<TMRCombinaison>, const Model& m) { return LiveView(m, m.combinations); }
 inline auto See(As<TMREnveloppe>, const Model& m) { return LiveView(m, m.envelopes); }
