@@ -30,6 +30,7 @@ void MeasureMemory(Context& context);
 void MeasureAccessors(Context& context);
 void MeasureScaling(Context& context);
 void MeasureHostileFiles(Context& context);
+void MeasureRepeatedImports(Context& context);
 void MeasureThreads(Context& context);
 
 }  // namespace tamur::bench

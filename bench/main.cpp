@@ -19,9 +19,13 @@ struct Group {
 };
 
 const Group kGroups[] = {
-    {"import", MeasureImport},   {"observer", MeasureObserver},
-    {"memory", MeasureMemory},   {"accessors", MeasureAccessors},
-    {"scaling", MeasureScaling}, {"hostile", MeasureHostileFiles},
+    {"import", MeasureImport},
+    {"observer", MeasureObserver},
+    {"memory", MeasureMemory},
+    {"accessors", MeasureAccessors},
+    {"scaling", MeasureScaling},
+    {"hostile", MeasureHostileFiles},
+    {"repeated", MeasureRepeatedImports},
     {"threads", MeasureThreads},
 };
 

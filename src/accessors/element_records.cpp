@@ -51,12 +51,13 @@ WideStringView Blanks(std::size_t length)
 template <class PublicRecord>
 void CopySupport(const Support& from, SupportKind kind, HostCopy& host, PublicRecord& to)
 {
+    const SupportColumns& columns = *from.columns;
     to.identifier = ToPublic(from.identifier);
-    to.GroupNumber = from.group;
+    to.GroupNumber = columns.group;
     to.ElemLabels = host.Labels(from.labels);
-    to.ElementType = host.String(SupportTypeText(kind, from.condition));
-    std::memcpy(to.Raideurs, from.stiffness, sizeof to.Raideurs);
-    std::memcpy(to.Amortissements, from.damping, sizeof to.Amortissements);
+    to.ElementType = host.String(SupportTypeText(kind, columns.condition));
+    std::memcpy(to.Raideurs, columns.stiffness, sizeof to.Raideurs);
+    std::memcpy(to.Amortissements, columns.damping, sizeof to.Amortissements);
 }
 
 }  // namespace
@@ -93,18 +94,19 @@ void Copy(const Bar& from, const BarTables& tables, HostCopy& host, TMRFilaire& 
 
 void Copy(const Surface& from, const BarTables& tables, HostCopy& host, TMRSurfacique& to)
 {
+    const SurfaceColumns& columns = *from.columns;
     to.identifier = ToPublic(from.identifier);
-    to.GroupNumber = from.group;
+    to.GroupNumber = columns.group;
     to.ElemLabels = host.Labels(from.labels);
-    to.ElementType = host.String(SurfaceTypeName(from.type));
+    to.ElementType = host.String(SurfaceTypeName(columns.type));
     CopyReferred(tables.materials, from.material, host, to.SurfaciqueMaterial);
     to.Surface = host.Polygon(from.outline);
-    to.PenteX = from.slopeX;
-    to.PenteY = from.slopeY;
-    to.Thickness = from.thickness;
-    to.MeshType = static_cast<TMRTypeMaillageSurfacique>(from.meshType);
-    to.NbXMesh = from.meshX;
-    to.NbYMesh = from.meshY;
+    to.PenteX = columns.slopeX;
+    to.PenteY = columns.slopeY;
+    to.Thickness = columns.thickness;
+    to.MeshType = static_cast<TMRTypeMaillageSurfacique>(columns.meshType);
+    to.NbXMesh = columns.meshX;
+    to.NbYMesh = columns.meshY;
 }
 
 void Copy(const Opening& from, HostCopy& host, TMROuverture& to)
@@ -118,29 +120,32 @@ void Copy(const Opening& from, HostCopy& host, TMROuverture& to)
 
 void Copy(const Wall& from, HostCopy& host, TMRParoi& to)
 {
+    const WallColumns& columns = *from.columns;
+    List<double> spanCoefficients = columns.spanCoefficients;
+    spanCoefficients.count = from.outline.count;
     to.identifier = ToPublic(from.identifier);
     to.Surface = host.Polygon(from.outline);
     to.ElemLabels = host.Labels(from.labels);
-    to.iSensPortee = from.spanDirection;
-    to.bNeige = from.snow;
-    to.bAccumulation = from.accumulation;
-    to.iModeAccumulation = from.accumulationMode;
-    to.dCoefLongueur = from.lengthCoefficient;
-    to.dCoefPaNormale = from.normalA;
-    to.dCoefPbNormale = from.normalB;
-    to.dCoefPaExtreme = from.extremeA;
-    to.dCoefPbExtreme = from.extremeB;
-    to.bVent = from.wind;
-    to.iVentType = from.windType;
-    to.dPermeabilite = from.permeability;
+    to.iSensPortee = columns.spanDirection;
+    to.bNeige = columns.snow;
+    to.bAccumulation = columns.accumulation;
+    to.iModeAccumulation = columns.accumulationMode;
+    to.dCoefLongueur = columns.lengthCoefficient;
+    to.dCoefPaNormale = columns.normalA;
+    to.dCoefPbNormale = columns.normalB;
+    to.dCoefPaExtreme = columns.extremeA;
+    to.dCoefPbExtreme = columns.extremeB;
+    to.bVent = columns.wind;
+    to.iVentType = columns.windType;
+    to.dPermeabilite = columns.permeability;
     for (int k = 0; k < 4; ++k) {
-        to.iStatutVent[k] = from.zones[k].status;
-        to.dCe[k] = from.zones[k].external;
-        to.dCiSupression[k] = from.zones[k].overpressure;
-        to.dCiDepression[k] = from.zones[k].depression;
+        to.iStatutVent[k] = columns.zones[k].status;
+        to.dCe[k] = columns.zones[k].external;
+        to.dCiSupression[k] = columns.zones[k].overpressure;
+        to.dCiDepression[k] = columns.zones[k].depression;
     }
     to.portCoef.nbPoints = from.outline.count;
-    to.portCoef.tabCoef = host.Array(from.spanCoefficients, from.outline.count);
+    to.portCoef.tabCoef = host.Array(spanCoefficients);
 }
 
 void Copy(const PointSupport& from, HostCopy& host, TMRAppuiPonctuel& to)

@@ -5,8 +5,9 @@ namespace tamur {
 TMR3DPlanarElement HostCopy::Polygon(const tamur::Polygon& polygon)
 {
     static_assert(sizeof(Point) == sizeof(TMR3DPnt));
-    return {polygon.count,
-            Array(reinterpret_cast<const TMR3DPnt*>(polygon.corners), polygon.count)};
+    const List<TMR3DPnt> corners = {reinterpret_cast<const TMR3DPnt*>(polygon.values), polygon.held,
+                                    polygon.count};
+    return {polygon.count, Array(corners)};
 }
 
 }  // namespace tamur

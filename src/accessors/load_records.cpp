@@ -6,9 +6,8 @@ namespace tamur {
 namespace {
 
 template <class Record, class PublicRecord>
-void CopyHead(const Record& from, PublicRecord& to)
+void CopyForce(const Record& from, PublicRecord& to)
 {
-    to.identifier = static_cast<LONG>(from.identifier);
     to.NumCas = from.caseNumber;
     to.Repere = from.frame;
     to.Fx = from.force[0];
@@ -46,14 +45,16 @@ void Copy(const LoadCase& from, HostCopy& host, TMRCas& to)
 
 void Copy(const PointLoad& from, HostCopy&, TMRChargePonctuelle& to)
 {
-    CopyHead(from, to);
+    to.identifier = static_cast<LONG>(from.identifier);
+    CopyForce(from, to);
     CopyMoments(from, to);
     to.Geometrie = ToPublic(from.position);
 }
 
 void Copy(const LineLoad& from, HostCopy&, TMRChargeLineaire& to)
 {
-    CopyHead(from, to);
+    to.identifier = static_cast<LONG>(from.identifier);
+    CopyForce(from, to);
     CopyMoments(from, to);
     to.intensityDebut = from.intensityStart;
     to.intensityFin = from.intensityEnd;
@@ -62,10 +63,11 @@ void Copy(const LineLoad& from, HostCopy&, TMRChargeLineaire& to)
 
 void Copy(const SurfaceLoad& from, HostCopy& host, TMRChargeSurfacique& to)
 {
-    CopyHead(from, to);
-    to.intensiteI = from.intensity[0];
-    to.intensiteJ = from.intensity[1];
-    to.intensiteK = from.intensity[2];
+    to.identifier = static_cast<LONG>(from.identifier);
+    CopyForce(*from.columns, to);
+    to.intensiteI = from.columns->intensity[0];
+    to.intensiteJ = from.columns->intensity[1];
+    to.intensiteK = from.columns->intensity[2];
     to.Geometrie = host.Polygon(from.outline);
 }
 

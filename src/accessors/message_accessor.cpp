@@ -1,19 +1,25 @@
 #include "accessors/message_accessor.h"
 
 #include "accessors/accessor_interface.h"
+#include "com/guarded.h"
 #include "prompts/prompts.h"
 
 namespace tamur {
+namespace {
 
-CTMRMessageAccessor::CTMRMessageAccessor(const Model& model)
+BSTR MakeText(const ImportMessage& message)
 {
-    const Table<ImportMessage>& messages = model.messages;
-    texts_.reserve(messages.Size());
-    for (std::size_t i = 0; i < messages.Size(); ++i) {
-        const WideString text = FormatPrompt(messages[i].prompt, messages[i].caseNumber);
-        texts_.emplace_back(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
-        if (texts_.back() == nullptr) platform::ThrowBadAlloc();
-    }
+    const WideString text = FormatPrompt(message.prompt, message.caseNumber);
+    const BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    if (made == nullptr) platform::ThrowBadAlloc();
+    return made;
+}
+
+}  // namespace
+
+CTMRMessageAccessor::CTMRMessageAccessor(const Model& model) : messages_(model.messages.Size())
+{
+    for (std::size_t i = 0; i < messages_.size(); ++i) messages_[i].read = model.messages[i];
 }
 
 IUnknown* CTMRMessageAccessor::FindInterface(REFIID riid)
@@ -23,15 +29,20 @@ IUnknown* CTMRMessageAccessor::FindInterface(REFIID riid)
 
 HRESULT CTMRMessageAccessor::GetNbMessages(LONG* count) noexcept
 {
-    *count = static_cast<LONG>(texts_.size());
+    *count = static_cast<LONG>(messages_.size());
     return S_OK;
 }
 
 HRESULT CTMRMessageAccessor::GetMessageAtRank(LONG rank, BSTR* text) noexcept
 {
-    if (rank < 0 || static_cast<std::size_t>(rank) >= texts_.size()) return E_FAIL;
-    *text = texts_[static_cast<std::size_t>(rank)].get();
-    return S_OK;
+    if (rank < 0 || static_cast<std::size_t>(rank) >= messages_.size()) return E_FAIL;
+    Message& message = messages_[static_cast<std::size_t>(rank)];
+    const HRESULT result = com::Guarded([&] {
+        if (message.text == nullptr) message.text.reset(MakeText(message.read));
+        return S_OK;
+    });
+    *text = message.text.get();
+    return result;
 }
 
 }  // namespace tamur

@@ -8,7 +8,8 @@
 
 namespace tamur {
 
-// Owns the texts that it lends.
+// Has a copy of the messages, and owns the texts that it lends: each is made when it is first asked
+// for.
 class CTMRMessageAccessor : public ITMRMessageAccessor {
  public:
     // Throws std::bad_alloc.
@@ -26,7 +27,12 @@ class CTMRMessageAccessor : public ITMRMessageAccessor {
         void operator()(OLECHAR* text) const { SysFreeString(text); }
     };
 
-    std::vector<std::unique_ptr<OLECHAR, Freed>> texts_;
+    struct Message {
+        ImportMessage read;
+        std::unique_ptr<OLECHAR, Freed> text;
+    };
+
+    std::vector<Message> messages_;
 };
 
 }  // namespace tamur

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "accessors/served_tables.h"
 #include "accessors/type_names.h"
 
@@ -17,28 +19,30 @@ void Copy(const Settings& from, HostCopy&, TMRStructureData& to)
 void Copy(const Material& from, HostCopy& host, TMRMaterial& to)
 {
     to.MaterialName = host.String(from.name);
-    to.E = from.modulus;
-    to.nu = from.poisson;
-    to.d = from.density;
-    to.alpha = from.expansion;
-    to.amortissement = from.damping;
+    to.E = from.constants->modulus;
+    to.nu = from.constants->poisson;
+    to.d = from.constants->density;
+    to.alpha = from.constants->expansion;
+    to.amortissement = from.constants->damping;
 }
 
 void Copy(const Section& from, HostCopy& host, TMRSectionGeometry& to)
 {
+    double constants[Section::kConstants] = {};
+    std::copy_n(from.constants.values, from.constants.held, constants);
     to.SectionLib = host.String(from.name);
-    to.Sx = from.constants[0];
-    to.Sy = from.constants[1];
-    to.Sz = from.constants[2];
-    to.Ix = from.constants[3];
-    to.Iy = from.constants[4];
-    to.Iz = from.constants[5];
-    to.Vx = from.constants[6];
-    to.V1y = from.constants[7];
-    to.V1z = from.constants[8];
-    to.V2y = from.constants[9];
-    to.V2z = from.constants[10];
-    const Outline& outline = from.outline;
+    to.Sx = constants[0];
+    to.Sy = constants[1];
+    to.Sz = constants[2];
+    to.Ix = constants[3];
+    to.Iy = constants[4];
+    to.Iz = constants[5];
+    to.Vx = constants[6];
+    to.V1y = constants[7];
+    to.V1z = constants[8];
+    to.V2y = constants[9];
+    to.V2z = constants[10];
+    const Outline& outline = *from.outline;
     to.epureSec.Code = outline.code;
     to.epureSec.nbPoints = outline.pointCount;
     to.epureSec.pTabPoints = host.Array(outline.coordinates);

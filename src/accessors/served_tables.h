@@ -85,11 +85,11 @@ inline auto See(As<TMRChargeSurfacique>, const Model& m) { return LiveView(m, m.
 
 // GroupNumber and ElementType stay as they are.
 void Copy(const GroupLoad& from, HostCopy& host, TMRChargePoidsPropre& to);
-inline auto See(As<TMRChargePoidsPropre>, const Model& m) { return LiveView(m, m.selfWeightLoads.Loads()); }
+inline auto See(As<TMRChargePoidsPropre>, const Model& m) { return LiveView(m, m.selfWeightLoads); }
 
 // GroupNumber and ElementType stay as they are.
 void Copy(const GroupLoad& from, HostCopy& host, TMRChargeThermique& to);
-inline auto See(As<TMRChargeThermique>, const Model& m) { return LiveView(m, m.thermalLoads.Loads()); }
+inline auto See(As<TMRChargeThermique>, const Model& m) { return LiveView(m, m.thermalLoads); }
 
 void Copy(const SeismicCase& from, HostCopy& host, TMRChargeSismique& to);
 inline auto See(As<TMRChargeSismique>, const Model& m) { return LiveView(m, m.seismicCases); }

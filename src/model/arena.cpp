@@ -1,11 +1,13 @@
 #include "model/arena.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace tamur {
 namespace {
 
-// Small models stay small; large ones take few blocks, large enough for large pages.
+// Small models stay small; large ones take few blocks, large enough for large pages. A new one is
+// at most a quarter of what is there: that much may be left unused.
 constexpr std::size_t kFirstBlock = std::size_t{16} << 10;
 constexpr std::size_t kLargestBlock = std::size_t{4} << 20;
 
@@ -18,7 +20,7 @@ Arena::~Arena()
 
 std::size_t Arena::UsualBlock() const
 {
-    return std::min(kLargestBlock, kFirstBlock << std::min<std::size_t>(blocks_.size() / 2, 16));
+    return std::clamp(std::bit_floor(total_ / 4), kFirstBlock, kLargestBlock);
 }
 
 char* Arena::AddBlock(std::size_t size)
@@ -30,6 +32,7 @@ char* Arena::AddBlock(std::size_t size)
         blocks_.pop_back();
         throw;
     }
+    total_ += size;
     return blocks_.back();
 }
 

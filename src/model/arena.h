@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <new>
 #include <type_traits>
 #include <vector>
 
@@ -39,6 +40,13 @@ class Arena {
         return reinterpret_cast<T*>(memory);
     }
 
+    template <class T>
+    [[nodiscard]] const T* Copy(const T& record)
+    {
+        static_assert(std::is_trivially_copyable_v<T> && alignof(T) <= kAlignment);
+        return ::new (Allocate(sizeof(T))) T(record);
+    }
+
     // Uninitialised memory whose size is not known yet: at most `size`. It is taken only as far as
     // Commit says; until then it is not taken at all.
     [[nodiscard]] char* Reserve(std::size_t size)
@@ -62,6 +70,7 @@ class Arena {
     char* AllocateFromBlock(std::size_t size);
 
     std::vector<char*> blocks_;
+    std::size_t total_ = 0;  // bytes of all blocks
     char* next_ = nullptr;
     char* end_ = nullptr;
 };

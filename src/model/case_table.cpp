@@ -43,6 +43,12 @@ void CaseTable::Finish()
 
 const CaseTable::Run* CaseTable::FindRun(std::int32_t number) const
 {
+    // Cases are mostly numbered one after the other: then a look is enough.
+    const std::int64_t guess = runs_.empty() ? 0 : std::int64_t{number} - runs_.front().number;
+    if (guess >= 0 && guess < static_cast<std::int64_t>(runs_.size())) {
+        const Run& guessed = runs_[static_cast<std::size_t>(guess)];
+        if (guessed.number == number) return &guessed;
+    }
     const auto run = std::lower_bound(
         runs_.begin(), runs_.end(), number,
         [](const Run& candidate, std::int32_t wanted) { return candidate.number < wanted; });

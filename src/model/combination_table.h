@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include "model/loads.h"
+#include "model/sorted_map.h"
 #include "model/table.h"
 
 namespace tamur {
@@ -14,16 +14,16 @@ class CombinationTable {
  public:
     explicit CombinationTable(Arena& arena) : all_(arena) {}
 
-    void Append(const Combination& combination) { all_.Append(combination); }
+    void Append(const Combination& combination);
 
-    // Ends the filling and renews the index.
-    void Finish();
+    // Ends the filling. Allocates nothing.
+    void Settle() { places_.Settle(); }
 
-    // The index that hosts see: the last combination of each case number, ascending.
-    [[nodiscard]] std::size_t Size() const { return index_.size(); }
+    // What hosts see, right after Settle: the last combination of each case number, ascending.
+    [[nodiscard]] std::size_t Size() const { return places_.Size(); }
     [[nodiscard]] const Combination& operator[](std::size_t rank) const
     {
-        return all_[index_[rank]];
+        return all_[places_.AtRank(rank)];
     }
 
     // Null when there is none.
@@ -31,7 +31,7 @@ class CombinationTable {
 
  private:
     Table<Combination> all_;  // every combination, in the order of the file
-    std::vector<std::uint32_t> index_;
+    SortedMap<std::uint32_t> places_;
 };
 
 }  // namespace tamur

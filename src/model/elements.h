@@ -6,9 +6,11 @@
 
 #include "TAMURReader.h"
 #include "model/arena.h"
+#include "model/columns.h"
 #include "model/geometry.h"
 #include "model/group_load_table.h"
 #include "model/labels.h"
+#include "model/list.h"
 #include "model/loads.h"
 #include "model/table.h"
 
@@ -71,19 +73,23 @@ struct Bar {
     std::uint32_t endRelease = 0;
 };
 
-struct Surface {
-    Polygon outline;
+struct SurfaceColumns {
     double thickness = 0;
     double slopeX = 0;
     double slopeY = 0;
-    Labels labels;
-    std::uint8_t type = 0;
-    std::uint8_t meshType = 0;  // a TMRTypeMaillageSurfacique
-    std::uint32_t identifier = 0;
     std::int32_t group = 0;
-    std::uint32_t material = 0;  // as a bar's
     std::int32_t meshX = 0;
     std::int32_t meshY = 0;
+    std::uint8_t type = 0;
+    std::uint8_t meshType = 0;  // a TMRTypeMaillageSurfacique
+};
+
+struct Surface {
+    Polygon outline;
+    Labels labels;
+    const SurfaceColumns* columns = &kNoColumns<SurfaceColumns>;
+    std::uint32_t identifier = 0;
+    std::uint32_t material = 0;  // as a bar's
 };
 
 struct Opening {
@@ -101,9 +107,8 @@ struct WindZone {
     std::int32_t status = 0;
 };
 
-struct Wall {
-    Polygon outline;
-    const double* spanCoefficients = nullptr;  // one per corner
+struct WallColumns {
+    List<double> spanCoefficients;  // one per corner
     double lengthCoefficient = 0;
     double normalA = 0;
     double normalB = 0;
@@ -111,24 +116,33 @@ struct Wall {
     double extremeB = 0;
     double permeability = 0;
     WindZone zones[4];
-    Labels labels;
     bool snow = false;
     bool accumulation = false;
     bool wind = false;
-    std::uint32_t identifier = 0;
     std::int32_t spanDirection = 0;
     std::int32_t accumulationMode = 0;
     std::int32_t windType = 0;
 };
 
-// What the three kinds of supports share.
-struct Support {
+struct Wall {
+    Polygon outline;
+    Labels labels;
+    const WallColumns* columns = &kNoColumns<WallColumns>;
+    std::uint32_t identifier = 0;
+};
+
+struct SupportColumns {
     double stiffness[6] = {};
     double damping[6] = {};
-    Labels labels;
-    std::uint8_t condition = 0;  // 0 when the code names none
-    std::uint32_t identifier = 0;
     std::int32_t group = 0;
+    std::uint8_t condition = 0;  // 0 when the code names none
+};
+
+// What the three kinds of supports share.
+struct Support {
+    Labels labels;
+    const SupportColumns* columns = &kNoColumns<SupportColumns>;
+    std::uint32_t identifier = 0;
 };
 
 struct PointSupport : Support {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include "model/list.h"
 
 namespace tamur {
 
@@ -14,10 +14,7 @@ struct Segment {
     Point start, end;
 };
 
-// The corners of a polygon, in an arena; null when there are none.
-struct Polygon {
-    const Point* corners = nullptr;
-    std::int32_t count = 0;
-};
+// The corners of a polygon.
+using Polygon = List<Point>;
 
 }  // namespace tamur

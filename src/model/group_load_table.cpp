@@ -4,68 +4,50 @@ namespace tamur {
 
 void GroupLoadTable::Append(const GroupLoad& load)
 {
-    LinkUpTo(loads_.Size());
     loads_.Prepare() = load;
-    LinkUpTo(loads_.Size() + 1);
+    nexts_.Prepare() = kNone;
+    kept_.Reserve();
+    Chain& chain = chains_.FindOrAdd(load.caseNumber);
+    // Nothing fails from here on.
+    const std::uint32_t place = static_cast<std::uint32_t>(loads_.Size());
+    (chain.first == kNone ? chain.first : nexts_[chain.last]) = place;
+    chain.last = place;
+    firstOfNewest_ = chain.first;
     loads_.Commit();
+    nexts_.Commit();
+    kept_.Append();
 }
 
-void GroupLoadTable::LinkUpTo(std::size_t size)
+void GroupLoadTable::RemoveFirst(Chain& chain)
 {
-    for (std::size_t i = links_.Size(); i < size; ++i) {
-        const std::uint32_t rank = static_cast<std::uint32_t>(i);
-        (void)links_.Prepare();
-        const auto [chain, isNew] = chains_.try_emplace(loads_[i].caseNumber, Chain{rank, rank});
-        if (!isNew) {
-            links_[chain->second.last].next = rank;
-            chain->second.last = rank;
-        }
-        links_.Commit();
-    }
-}
-
-const GroupLoad& GroupLoadTable::FirstOfCase(std::int32_t caseNumber)
-{
-    LinkUpTo(loads_.Size());
-    return loads_[chains_.at(caseNumber).first];
+    kept_.Remove(chain.first);
+    chain.first = nexts_[chain.first];
 }
 
 void GroupLoadTable::RemoveCase(std::int32_t caseNumber)
 {
-    LinkUpTo(loads_.Size());
-    const auto chain = chains_.find(caseNumber);
-    if (chain == chains_.end()) return;
-    for (std::uint32_t rank = chain->second.first; rank != kNone; rank = links_[rank].next) {
-        links_[rank].isRemoved = true;
-    }
-    chains_.erase(chain);
+    Chain* const chain = chains_.Find(caseNumber);
+    if (chain == nullptr) return;
+    while (chain->first != kNone) RemoveFirst(*chain);
+    DropTail();
 }
 
 bool GroupLoadTable::RemoveFirstOfCase(std::int32_t caseNumber)
 {
-    LinkUpTo(loads_.Size());
-    const auto chain = chains_.find(caseNumber);
-    if (chain == chains_.end()) return false;
-    Link& link = links_[chain->second.first];
-    link.isRemoved = true;
-    if (link.next == kNone) {
-        chains_.erase(chain);
-    } else {
-        chain->second.first = link.next;
-    }
+    Chain* const chain = chains_.Find(caseNumber);
+    if (chain == nullptr || chain->first == kNone) return false;
+    RemoveFirst(*chain);
+    DropTail();
     return true;
 }
 
-void GroupLoadTable::Settle()
+// No load that is left is linked to one at the end that is removed: loads go from the front of
+// their chain.
+void GroupLoadTable::DropTail()
 {
-    std::size_t kept = 0;
-    for (std::size_t rank = 0; rank < loads_.Size(); ++rank) {
-        if (rank < links_.Size() && links_[rank].isRemoved) continue;
-        loads_[kept++] = loads_[rank];
-    }
-    loads_.Truncate(kept);
-    links_.Truncate(0);
-    chains_.clear();
+    const std::size_t size = kept_.DropTail();
+    loads_.Truncate(size);
+    nexts_.Truncate(size);
 }
 
 }  // namespace tamur

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "model/columns.h"
 #include "model/geometry.h"
 #include "model/list.h"
 #include "model/text.h"
@@ -29,13 +30,17 @@ struct LineLoad {
     std::int32_t frame = 0;
 };
 
-struct SurfaceLoad {
-    Polygon outline;
+struct SurfaceLoadColumns {
     double intensity[3] = {};
     double force[3] = {};
-    std::uint32_t identifier = 0;
     std::int32_t caseNumber = 0;
     std::int32_t frame = 0;
+};
+
+struct SurfaceLoad {
+    Polygon outline;
+    const SurfaceLoadColumns* columns = &kNoColumns<SurfaceLoadColumns>;
+    std::uint32_t identifier = 0;
 };
 
 // A self-weight or thermal load: it acts on a group, not at a place.

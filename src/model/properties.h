@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "model/columns.h"
 #include "model/list.h"
 #include "model/text.h"
 
@@ -16,13 +17,17 @@ struct Settings {
     bool isRigid = true;  // in bending
 };
 
-struct Material {
-    Text name;
+struct MaterialConstants {
     double modulus = 0;
     double poisson = 0;
     double density = 0;
     double expansion = 0;
     double damping = 0;
+};
+
+struct Material {
+    Text name;
+    const MaterialConstants* constants = &kNoColumns<MaterialConstants>;
 };
 
 // The outline of a section.
@@ -36,10 +41,12 @@ struct Outline {
 };
 
 struct Section {
+    static constexpr std::int32_t kConstants = 11;
+
     Text name;
-    double constants[11] = {};  // Sx Sy Sz Ix Iy Iz Vx V1y V1z V2y V2z
-    bool isHShape = false;      // the name was rewritten from an H form; hosts do not see it
-    Outline outline;
+    List<double> constants;  // Sx Sy Sz Ix Iy Iz Vx V1y V1z V2y V2z
+    const Outline* outline = &kNoColumns<Outline>;
+    bool isHShape = false;  // the name was rewritten from an H form; hosts do not see it
 };
 
 struct Release {

@@ -52,7 +52,7 @@ class Table {
         chunks_.push_back(reinterpret_cast<T*>(arena_.Allocate(kChunk * sizeof(T))));
     }
 
-    static constexpr std::size_t kChunkBytes = std::size_t{64} << 10;
+    static constexpr std::size_t kChunkBytes = std::size_t{16} << 10;
     static constexpr std::size_t kChunk = std::bit_floor(kChunkBytes / sizeof(T));
     static constexpr int kShift = std::countr_zero(kChunk);
     static constexpr std::size_t kMask = kChunk - 1;

@@ -43,6 +43,7 @@ char* WriteText(char* room, std::string_view text)
 
 Text MakeText(Arena& arena, std::string_view text)
 {
+    if (text.empty()) return kEmptyText;
     char* const room = arena.Reserve(TextRoom(text.size()));
     arena.Commit(WriteText(room, text));
     return TextAt(room);

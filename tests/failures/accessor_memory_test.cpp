@@ -150,6 +150,33 @@ TEST(FailingMemory, NodesInBulkAreDeliveredAllOrNone)
     EXPECT_GT(count, 20u);
 }
 
+// A text is made when it is first asked for.
+TEST(FailingMemory, EveryAllocationOfAMessageMayFail)
+{
+    const auto reader = Imported(ModelText().Elements({"8 1 0 0 0 0 0 0 7 1 0 0 2 1"}));
+    const auto messages = GetAccessor(*reader, &ITAMURStructureReader::GetMessageAccessor);
+    std::uint64_t failed = 0;
+    for (;;) {
+        (void)platform::PrepareForBadAlloc();  // not to be counted
+        MemoryWatch memory;
+        memory.FailAt(failed + 1, Failing::kFromThereOn);
+        BSTR text = const_cast<BSTR>(OLESTR("before"));
+        const HRESULT result = messages->GetMessageAtRank(0, &text);
+        memory.FailNoMore();
+        (void)platform::PrepareForBadAlloc();  // what was given up for the error comes back
+        if (!memory.HasFailed()) {
+            EXPECT_EQ(result, S_OK);
+            EXPECT_EQ(Utf8(text), "ATTENTION: Import Poids propre cas numéro 7 impossible");
+            break;
+        }
+        ++failed;
+        EXPECT_EQ(result, E_OUTOFMEMORY);
+        EXPECT_EQ(text, nullptr);
+        EXPECT_EQ(memory.BlocksAlive(), 0);
+    }
+    EXPECT_GE(failed, 2u);  // the text is put together, and then made
+}
+
 TEST(FailingMemory, EveryAllocationOfAnAccessorMayFail)
 {
     std::uint64_t count = 0;

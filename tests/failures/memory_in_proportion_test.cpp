@@ -43,6 +43,25 @@ TEST(MemoryInProportion, FilesMadeToBeSlowStayWithinTheLimit)
     RecordProperty("largest peak in times the file", std::to_string(largest));
 }
 
+// Of many sizes, because memory is taken in steps.
+TEST(MemoryInProportion, LinesAsShortAsCanBeStayWithinTheLimit)
+{
+    const QuietBoxes boxes;
+    double largest = 0;
+    for (const bench::MinimalLine& minimal : bench::MinimalLines()) {
+        SCOPED_TRACE(std::string(minimal.sections) + minimal.line);
+        std::string text = ModelText().Text() + minimal.sections;
+        for (std::size_t size = 1000; size <= 1000000; size += size / 2) {
+            while (text.size() < size) text += minimal.line;
+            const std::int64_t peak = PeakOfImport(text);
+            EXPECT_LE(peak, MemoryLimit(text.size())) << text.size();
+            const double times = static_cast<double>(peak) / static_cast<double>(text.size());
+            if (text.size() > 200000) largest = std::max(largest, times);
+        }
+    }
+    RecordProperty("largest peak in times the file", std::to_string(largest));
+}
+
 TEST(MemoryInProportion, CountsWithoutAnythingAfterThemTakeNothing)
 {
     const QuietBoxes boxes;
@@ -61,6 +80,21 @@ TEST(MemoryInProportion, CountsWithoutAnythingAfterThemTakeNothing)
             EXPECT_LE(PeakOfImport(ModelText().Raw(line).Text()), usual) << line;
         }
     }
+}
+
+// A host that only counts them, or reads few, does not pay for the texts of all.
+TEST(MemoryInProportion, MessagesTakeNoTextUntilAskedFor)
+{
+    std::string text = ModelText().Text() + "#Elements\n";
+    for (int i = 0; i < 100000; ++i) text += "8\n";
+    const auto reader = Imported(text);
+    const MemoryWatch memory;
+    const auto messages = GetAccessor(*reader, &ITAMURStructureReader::GetMessageAccessor);
+    EXPECT_LT(memory.PeakBytes(), 9 * static_cast<std::int64_t>(text.size()));
+    BSTR first = nullptr;
+    ASSERT_EQ(messages->GetMessageAtRank(99999, &first), S_OK);
+    EXPECT_EQ(Utf8(first), "ATTENTION: Import Poids propre cas numéro 0 impossible");
+    EXPECT_LT(memory.PeakBytes(), 9 * static_cast<std::int64_t>(text.size()));
 }
 
 // The limit is generous to small files; a model of a usual size takes little more than its file.

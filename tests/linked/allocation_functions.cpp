@@ -77,3 +77,19 @@ void operator delete(void* block, std::size_t) noexcept
 {
     std::free(block);
 }
+
+// By default these call the ones above, but a sanitizer has its own, which would go uncounted.
+void* operator new[](std::size_t size)
+{
+    return ::operator new(size);
+}
+
+void operator delete[](void* block) noexcept
+{
+    ::operator delete(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
+{
+    ::operator delete(block);
+}

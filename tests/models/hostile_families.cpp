@@ -1,5 +1,6 @@
 #include "models/hostile_families.h"
 
+#include <cstdint>
 #include <initializer_list>
 #include <string_view>
 
@@ -151,6 +152,33 @@ void BarsOfAsManySections(std::string& text, int size)
     for (int i = 1; i <= size; ++i) AddBar(text, i, Number(i));
 }
 
+// Each load looks for its case and for the first load of it, somewhere else every time.
+void LoadsOfCasesInRandomOrder(std::string& text, int size)
+{
+    text += "#Cas\n";
+    AddNumbered(text, 1, size, "S 1 G 0");
+    text += "#Elements\n";
+    std::uint32_t random = 1;
+    for (int i = 0; i < 2 * size; ++i) {
+        random = random * 1664525 + 1013904223;
+        AddGroupLoad(text, "8", Number(1 + static_cast<int>(random % unsigned(size))), 1, "1");
+    }
+}
+
+void LinesThatAreCut(std::string& text, int size)
+{
+    text += "#Elements\n";
+    for (int i = 0; i < size; ++i) text.append(60000, 'x').append(1, '\n');
+}
+
+void MinimalElements(std::string& text, int size)
+{
+    text += "#Elements\n";
+    for (int i = 0; i < size; ++i) {
+        for (const char* line : {"20\n", "11\n", "7\n", "3\n", "17\n", "8\n", "13\n"}) text += line;
+    }
+}
+
 void OneHeaderManyTimes(std::string& text, int size)
 {
     for (int i = 1; i <= size; ++i) {
@@ -172,11 +200,18 @@ const std::vector<HostileFamily>& HostileFamilies()
         {"loads of one case, refused", LoadsOfOneCaseRefused, 200000},
         {"loads of one case, refused one by one", LoadsRefusedOneByOne, 100000},
         {"loads of many cases, refused", LoadsOfManyCasesRefused, 50000},
+        {"loads of cases in random order", LoadsOfCasesInRandomOrder, 100000},
+        {"minimal elements", MinimalElements, 50000},
         {"one huge outline, many bars", BarsWithOneHugeOutline, 200000},
         {"as many sections as bars", BarsOfAsManySections, 50000},
         {"polygons that announce more than they hold",
          [](std::string& text, int size) { AddLongElements(text, size, "3 1 0 49000 0 ", "x"); },
-         200},
+         2000},
+        {"walls that announce more than they hold",
+         [](std::string& text, int size) {
+             AddLongElements(text, size, "20 1 0 49940 49940 ", "x");
+         },
+         2000},
         {"labels of one character",
          [](std::string& text, int size) {
              AddLongElements(text, size, "1 1 0 1 24950 0 0 0", " \xE9");
@@ -189,6 +224,12 @@ const std::vector<HostileFamily>& HostileFamilies()
          500},
         {"lines of the greatest length",
          [](std::string& text, int size) { AddLongElements(text, size, "", "x"); }, 2000},
+        {"lines that are cut", LinesThatAreCut, 500},
+        {"NUL characters",
+         [](std::string& text, int size) {
+             (text += "#Elements\n").append(static_cast<std::size_t>(size), '\0');
+         },
+         50000000},
         {"long lines of blanks",
          [](std::string& text, int size) { AddLongElements(text, size, "1", " "); }, 500},
         {"one line without an end",
@@ -207,6 +248,56 @@ const std::vector<HostileFamily>& HostileFamilies()
          500},
     };
     return families;
+}
+
+const std::vector<MinimalLine>& MinimalLines()
+{
+    static const char* const kElements = "#Elements\n";
+    // Cases of number 0, which columns that are missing mean.
+    static const char* const kOfCase = "#Cas\n0 S 1\n#Elements\n";
+    static const char* const kParameters = "#Cas\n1 C 2\n#TAB_PARAM_CAS\n";
+    static const std::vector<MinimalLine> lines = {
+        {"#Groupes\n", "a\n"},
+        {"#Materiaux\n", "a\n"},
+        {"#Materiaux\n", "a 1\n"},
+        {"#Geometries\n", "a\n"},
+        {"#Geometries\n", "a 1\n"},
+        {"#Geometries\n", "a 1 1 1 1 1 1 1 1 1 1 1\n"},
+        {"#Attaches\n", "a\n"},
+        {"#Attaches\n", "a 1 a a a\n"},
+        {"#Cas\n", "1a 1\n"},
+        {kParameters, "1 2 1 1\n"},
+        {kParameters, "1 3\n"},
+        {kParameters, "1 4\n"},
+        {kParameters, "1 9\n"},
+        {kElements, "1 1 0 1\n"},
+        {kElements, "2 1 0 2 0 1\n"},
+        {kElements, "3\n"},
+        {kElements, "3+1+0+0+0+0+0+0\n"},
+        {kElements, "4 1 0 1\n"},
+        {kElements, "4+1+0+1+0+0+0+0+0+0+0\n"},
+        {kElements, "5 1 0 1\n"},
+        {kElements, "6 1 0 2\n"},
+        {kElements, "7\n"},
+        {kElements, "7+1+0+0+0+0+0+0\n"},
+        {kElements, "8\n"},
+        {kOfCase, "8\n"},
+        {kElements, "9 1 0 1\n"},
+        {kElements, "10 1 0 2\n"},
+        {kElements, "11\n"},
+        {kElements, "11+1+0+0+0+0+0+0\n"},
+        {kElements, "12 1 0 1\n"},
+        {kElements, "13\n"},
+        {kOfCase, "13\n"},
+        {kElements, "15 1 0 2\n"},
+        {kElements, "16 1 0 2\n"},
+        {kElements, "17\n"},
+        {kElements, "20\n"},
+        {kElements, "20+1+0+0+0+0+0+0\n"},
+        {kElements, "21 1 0 2\n"},
+        {kElements, "22 1 0 2\n"},
+    };
+    return lines;
 }
 
 }  // namespace tamur::bench

@@ -15,4 +15,13 @@ struct HostileFamily {
 
 [[nodiscard]] const std::vector<HostileFamily>& HostileFamilies();
 
+// The shortest line that gives a record, for each kind of them, and the sections that make it do
+// so.
+struct MinimalLine {
+    const char* sections;
+    const char* line;
+};
+
+[[nodiscard]] const std::vector<MinimalLine>& MinimalLines();
+
 }  // namespace tamur::bench

@@ -35,7 +35,7 @@ std::uint32_t ResolveRelease(std::int32_t number, const Model& model, const Mode
 void TurnOutlinedSection(const Model& model, Bar& bar)
 {
     if (bar.startSection == 0) return;
-    if (model.barTables->sections.all[bar.startSection - 1].outline.code == 0) return;
+    if (model.barTables->sections.all[bar.startSection - 1].outline->code == 0) return;
     bar.angle = static_cast<std::int32_t>((std::int64_t{bar.angle} + 90) % 360);
     bar.remarks.turnedSection = true;
 }

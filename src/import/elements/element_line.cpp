@@ -46,24 +46,25 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Node& n
 
 // kSurface
 static void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file,
-                        Surface& surface)
+                        Surface& surface, SurfaceColumns& columns)
 {
     std::int32_t type = 0, material = 0, meshType = 0;
-    tokens >> surface.group >> type >> material >> meshType >> surface.meshX >> surface.meshY >>
-        surface.thickness >> surface.slopeX >> surface.slopeY;
-    surface.type = SurfaceTypeOf(type);
+    tokens >> columns.group >> type >> material >> meshType >> columns.meshX >> columns.meshY >>
+        columns.thickness >> columns.slopeX >> columns.slopeY;
+    columns.type = SurfaceTypeOf(type);
     surface.material = ResolveMaterial(material, model, file);
-    surface.meshType = MeshTypeOf(meshType);
-    if (surface.type == kPlaneStrain) surface.thickness = 1.0;
+    columns.meshType = MeshTypeOf(meshType);
+    if (columns.type == kPlaneStrain) columns.thickness = 1.0;
 }
 
 // kPointSupport
-static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, PointSupport& support)
+static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, PointSupport& support,
+                        SupportColumns& columns)
 {
     std::int32_t condition = 0;
-    tokens >> support.group >> condition >> support.orientationNode >> support.angle >>
-        support.stiffness >> support.damping >> support.area;
-    support.condition = ConditionOf(condition);
+    tokens >> columns.group >> condition >> support.orientationNode >> support.angle >>
+        columns.stiffness >> columns.damping >> support.area;
+    columns.condition = ConditionOf(condition);
 }
 
 // kPointLoad
@@ -80,9 +81,10 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineLoa
 }
 
 // kSurfaceLoad
-static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceLoad& load)
+static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceLoad&,
+                        SurfaceLoadColumns& columns)
 {
-    tokens >> load.caseNumber >> load.frame >> load.intensity >> load.force;
+    tokens >> columns.caseNumber >> columns.frame >> columns.intensity >> columns.force;
 }
 
 // kSelfWeight and kThermalLoad
@@ -100,21 +102,23 @@ static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, Mass& m
 }
 
 // kLineSupport
-static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineSupport& support)
+static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, LineSupport& support,
+                        SupportColumns& columns)
 {
     std::int32_t condition = 0;
-    tokens >> support.group >> condition;
-    tokens.Skip<std::int32_t>() >> support.angle >> support.stiffness >> support.damping >>
+    tokens >> columns.group >> condition;
+    tokens.Skip<std::int32_t>() >> support.angle >> columns.stiffness >> columns.damping >>
         support.area;
-    support.condition = ConditionOf(condition);
+    columns.condition = ConditionOf(condition);
 }
 
 // kSurfaceSupport
-static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceSupport& support)
+static void ReadColumns(StreamScanner& tokens, Model&, const ModelFile&, SurfaceSupport&,
+                        SupportColumns& columns)
 {
     std::int32_t condition = 0;
-    tokens >> support.group >> condition >> support.stiffness >> support.damping;
-    support.condition = ConditionOf(condition);
+    tokens >> columns.group >> condition >> columns.stiffness >> columns.damping;
+    columns.condition = ConditionOf(condition);
 }
 
 // kDisplacement

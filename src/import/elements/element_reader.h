@@ -2,9 +2,13 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
+#include <new>
+#include <type_traits>
 
 #include "import/elements/labels.h"
 #include "import/file/model_file.h"
+#include "import/file/read_list.h"
 #include "import/scan/stream_scanner.h"
 #include "model/model.h"
 
@@ -29,6 +33,12 @@ template <class Record>
 concept HasLabels = requires(Record record)
 {
     record.labels;
+};
+
+template <class Record>
+concept HasColumnsApart = requires(Record record)
+{
+    record.columns;
 };
 
 // A kind that drops some shapes: BrokenShapeRule says which finding that is.
@@ -76,7 +86,11 @@ class ElementReader {
             SkipLabels(tokens_, labelCount);
         }
         tokens_.Skip<std::int32_t>().template Skip<std::uint32_t>().template Skip<std::uint32_t>();
-        ReadColumns(tokens_, model_, file_, record);
+        if constexpr (HasColumnsApart<Record>) {
+            ReadColumnsApart(record);
+        } else {
+            ReadColumns(tokens_, model_, file_, record);
+        }
         if (tokens_.Failed()) file_.Report(Finding::kUnreadableColumn);
         return true;
     }
@@ -112,12 +126,32 @@ class ElementReader {
         for (std::int32_t i = kPointsNeeded<Record>; i < count; ++i) ReadPoint(further);
     }
 
+    // Of the corners that the line does not hold only the first is stored: it may be begun.
     Polygon ReadPolygon(std::int32_t count)
     {
-        if (count <= 0) return Polygon();
-        Point* const corners = model_.arena.Array<Point>(static_cast<std::size_t>(count));
-        for (std::int32_t i = 0; i < count; ++i) ReadPoint(corners[i]);
-        return {corners, count};
+        Polygon polygon;
+        polygon.count = count;
+        if (count == 0) return polygon;
+        const std::size_t most =
+            std::min(static_cast<std::size_t>(count), MostValues(tokens_.Left()) / 3 + 1);
+        char* const room = model_.arena.Reserve(most * sizeof(Point));
+        Point* const corners = reinterpret_cast<Point*>(room);
+        for (; polygon.held < count && !tokens_.Failed(); ++polygon.held) {
+            ReadPoint(*::new (&corners[polygon.held]) Point());
+        }
+        model_.arena.Commit(reinterpret_cast<const char*>(corners + polygon.held));
+        if (polygon.held > 0) polygon.values = corners;
+        return polygon;
+    }
+
+    // Columns that the line does not reach take no memory.
+    template <class Record>
+    void ReadColumnsApart(Record& record)
+    {
+        const bool areThere = !tokens_.Failed();
+        std::remove_cvref_t<decltype(*record.columns)> columns;
+        ReadColumns(tokens_, model_, file_, record, columns);
+        if (areThere) record.columns = model_.arena.Copy(columns);
     }
 
     StreamScanner& tokens_;

@@ -1,5 +1,6 @@
 #include "import/elements/wall.h"
 
+#include "import/file/read_list.h"
 #include "import/tables/switch_character.h"
 #include "import/tables/version.h"
 
@@ -26,24 +27,22 @@ void ReadSwitch(StreamScanner& tokens, bool& isOn)
 
 }  // namespace
 
-void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile&, Wall& wall)
+void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile&, Wall& wall,
+                 WallColumns& columns)
 {
-    tokens >> wall.spanDirection;
-    ReadSwitch(tokens, wall.snow);
-    ReadSwitch(tokens, wall.accumulation);
-    tokens >> wall.accumulationMode >> wall.lengthCoefficient >> wall.normalA >> wall.normalB >>
-        wall.extremeA >> wall.extremeB;
-    ReadSwitch(tokens, wall.wind);
+    tokens >> columns.spanDirection;
+    ReadSwitch(tokens, columns.snow);
+    ReadSwitch(tokens, columns.accumulation);
+    tokens >> columns.accumulationMode >> columns.lengthCoefficient >> columns.normalA >>
+        columns.normalB >> columns.extremeA >> columns.extremeB;
+    ReadSwitch(tokens, columns.wind);
     std::int32_t windType = 0;
-    tokens >> windType >> wall.permeability;
-    wall.windType = WindTypeOf(windType, model);
-    for (WindZone& zone : wall.zones) {
+    tokens >> windType >> columns.permeability;
+    columns.windType = WindTypeOf(windType, model);
+    for (WindZone& zone : columns.zones) {
         tokens >> zone.status >> zone.external >> zone.overpressure >> zone.depression;
     }
-    const std::size_t corners = static_cast<std::size_t>(wall.outline.count);
-    double* const coefficients = model.arena.Array<double>(corners);
-    for (std::size_t i = 0; i < corners; ++i) tokens >> coefficients[i];
-    wall.spanCoefficients = coefficients;
+    columns.spanCoefficients = ReadList<double>(tokens, wall.outline.count, model.arena);
 }
 
 }  // namespace tamur

@@ -7,6 +7,7 @@
 namespace tamur {
 
 // Columns 11 and following of a wall (kind 20), whose points and labels are read.
-void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file, Wall& wall);
+void ReadColumns(StreamScanner& tokens, Model& model, const ModelFile& file, Wall& wall,
+                 WallColumns& columns);
 
 }  // namespace tamur

@@ -74,7 +74,8 @@ bool ModelFile::ReadModelLine(Line& line)
 // A line that is not whole in the buffer, the last one, or one that is too long.
 bool ModelFile::ReadUnusualLine(Line& line)
 {
-    Fill();
+    // What is there is moved only for lines that need more.
+    if (static_cast<std::size_t>(filled_ - next_) < kLookAhead) Fill();
     line = Line();
     if (next_ == filled_) return false;
     const Extent extent = MeasureLine(next_, filled_);

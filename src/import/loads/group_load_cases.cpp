@@ -34,7 +34,7 @@ bool Accepts(Model& model, const Kind& kind, std::int32_t caseNumber)
         return true;
     }
     GroupLoadTable& loads = model.*kind.loads;
-    return AreAlike(loads.Newest(), loads.FirstOfCase(caseNumber));
+    return AreAlike(loads.Newest(), loads.FirstOfNewest());
 }
 
 void AddMessage(Model& model, const Kind& kind, std::int32_t caseNumber)

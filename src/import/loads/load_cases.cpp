@@ -38,6 +38,11 @@ bool ReadCases(Model& model, ModelFile& file)
 
 void ReadParameters(Model& model, ModelFile& file)
 {
+    // Whatever ends the reading, the combinations must be whole for the hosts.
+    struct Settler {
+        Model& model;
+        ~Settler() { model.combinations.Settle(); }
+    } settler{model};
     for (Line line; file.ReadDataLine(line);) {
         StreamScanner tokens(line.text, line.end);
         std::int32_t caseNumber = 0;
@@ -64,7 +69,6 @@ bool ReadLoadCaseTables(Model& model, ModelFile& file)
     model.cases.Finish();
     if (needsParameters && file.FindSectionHeader(SectionHeader::kCaseParameters)) {
         ReadParameters(model, file);
-        model.combinations.Finish();
     }
     return true;
 }

@@ -13,9 +13,13 @@ bool ReadMaterials(Model& model, ModelFile& file)
             std::string_view name;
             Material material;
             FormatScanner columns(line.text);
-            columns >> name >> material.modulus >> material.poisson >> material.density >>
-                material.expansion >> material.damping;
+            MaterialConstants constants;
+            columns >> name >> constants.modulus;
+            const bool areThere = !columns.Failed();
+            columns >> constants.poisson >> constants.density >> constants.expansion >>
+                constants.damping;
             if (columns.Failed()) file.Report(Finding::kUnreadableColumn);
+            if (areThere) material.constants = tables.arena.Copy(constants);
             material.name = MakeText(tables.arena, name);
             tables.materials.Append(material);
         }
@@ -27,12 +31,12 @@ bool ReadMaterials(Model& model, ModelFile& file)
 void AddDefaultMaterial(Model& model)
 {
     BarTables& tables = *model.barTables;
-    tables.materials.Append({.name = MakeText(tables.arena, "BETON"),
-                             .modulus = 1.962e10,
-                             .poisson = 0.1,
-                             .density = 24525.0,
-                             .expansion = 1e-5,
-                             .damping = 0.04});
+    static constexpr MaterialConstants kConcrete = {.modulus = 1.962e10,
+                                                    .poisson = 0.1,
+                                                    .density = 24525.0,
+                                                    .expansion = 1e-5,
+                                                    .damping = 0.04};
+    tables.materials.Append({.name = MakeText(tables.arena, "BETON"), .constants = &kConcrete});
     model.hasDefaultMaterial = true;
 }
 

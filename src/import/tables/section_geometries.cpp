@@ -37,9 +37,13 @@ List<double> ReadCoordinates(StreamScanner& tokens, const Outline& outline, Aren
     return list;
 }
 
-void ReadOutline(StreamScanner& tokens, Arena& arena, const ModelFile& file, Outline& outline)
+const Outline* ReadOutline(StreamScanner& tokens, Arena& arena, const ModelFile& file)
 {
-    outline.code = 'F';
+    // Lines that end before it have it, too.
+    static constexpr Outline kNoOutline = {
+        .coordinates = {}, .radius = 0, .pointCount = 0, .code = 'F'};
+    const bool isThere = !tokens.Failed();
+    Outline outline = kNoOutline;
     std::int32_t count = 0;
     tokens >> count >> outline.code;
     outline.pointCount = ListCount(count, file);
@@ -48,6 +52,7 @@ void ReadOutline(StreamScanner& tokens, Arena& arena, const ModelFile& file, Out
     const bool hasRadius = outline.code == 'C' || outline.code == 'F';
     // Often absent, so not worth a finding. After a list that was not read it cannot be found.
     if (hasRadius && outline.pointCount == count) tokens >> outline.radius;
+    return isThere ? arena.Copy(outline) : &kNoOutline;
 }
 
 }  // namespace
@@ -62,8 +67,9 @@ bool ReadSectionGeometries(Model& model, ModelFile& file)
             Section section;
             std::string_view name;
             StreamScanner tokens(line.text, line.end);
-            tokens >> name >> section.constants;
-            ReadOutline(tokens, tables.arena, file, section.outline);
+            tokens >> name;
+            section.constants = ReadList<double>(tokens, Section::kConstants, tables.arena);
+            section.outline = ReadOutline(tokens, tables.arena, file);
             const SectionName normalised = NormaliseSectionName(name);
             section.name = MakeText(tables.arena, normalised.text);
             section.isHShape = normalised.isHShape;
@@ -77,11 +83,12 @@ bool ReadSectionGeometries(Model& model, ModelFile& file)
 void AddDefaultSection(Model& model)
 {
     BarTables& tables = *model.barTables;
-    tables.sections.all.Append({.name = MakeText(tables.arena, "R20*30"),
-                                .constants = {0.06, 0.05, 0.05, 0.0004695, 0.00045, 0.0002,
-                                              0.002761, 0.003, 0.002, 0.003, 0.002},
-                                .isHShape = false,
-                                .outline = {}});
+    static constexpr double kConstants[Section::kConstants] = {
+        0.06, 0.05, 0.05, 0.0004695, 0.00045, 0.0002, 0.002761, 0.003, 0.002, 0.003, 0.002};
+    Section section;
+    section.name = MakeText(tables.arena, "R20*30");
+    section.constants = {kConstants, Section::kConstants, Section::kConstants};
+    tables.sections.all.Append(section);
     model.hasDefaultSection = true;
 }
 
