@@ -30,5 +30,6 @@ void MeasureAccessors(Context& context);
 void MeasureScaling(Context& context);
 void MeasureHostileFiles(Context& context);
 void MeasureThreads(Context& context);
+void MeasureCheck(Context& context);
 
 }  // namespace tamur::bench

@@ -21,6 +21,7 @@ struct Group {
 const Group kGroups[] = {
     {"import", MeasureImport},   {"memory", MeasureMemory},        {"accessors", MeasureAccessors},
     {"scaling", MeasureScaling}, {"hostile", MeasureHostileFiles}, {"threads", MeasureThreads},
+    {"check", MeasureCheck},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory

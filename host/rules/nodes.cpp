@@ -33,18 +33,25 @@ std::unordered_set<std::int64_t> OrientationNodes(const Structure& structure)
     return nodes;
 }
 
+// As files are usually numbered.
+template <class Elements>
+bool AreAscending(const Elements& elements)
+{
+    return std::adjacent_find(elements.begin(), elements.end(),
+                              [](const Element& a, const Element& b) {
+                                  return a.kind == b.kind && a.identifier >= b.identifier;
+                              }) == elements.end();
+}
+
 template <class Elements>
 void CheckIdentifiersOf(const Elements& elements, Kind kind, Report& report)
 {
+    if (AreAscending(elements)) return;
     std::vector<std::pair<std::int64_t, Index>> used;
-    used.reserve(elements.size());
-    bool isAscending = true;
     for (const auto& element : elements) {
         if (kind != Kind::kNone && element.kind != kind) continue;
-        isAscending = isAscending && (used.empty() || used.back().first < element.identifier);
         used.emplace_back(element.identifier, element.rank);
     }
-    if (isAscending) return;
     std::sort(used.begin(), used.end());
     for (std::size_t i = 0, end = 0; i < used.size(); i = end) {
         while (end < used.size() && used[end].first == used[i].first) ++end;
@@ -61,12 +68,17 @@ void CheckFreeNodes(const Model& model, Report& report)
 {
     const Structure& structure = model.structure;
     if (!structure.isComplete || structure.nodes.empty()) return;
+    std::vector<Element> lonely;
+    for (const Element& node : structure.nodes) {
+        if (node.isUsable && structure.membersAt[structure.CornersOf(node)[0]].empty()) {
+            lonely.push_back(node);
+        }
+    }
+    if (lonely.empty()) return;
     const std::vector<Index> uses = UsesOf(structure);
     const auto orientation = OrientationNodes(structure);
-    for (const Element& node : structure.nodes) {
-        if (!node.isUsable) continue;
-        const Index point = structure.CornersOf(node)[0];
-        if (uses[point] > 0 || !structure.membersAt[point].empty()) continue;
+    for (const Element& node : lonely) {
+        if (uses[structure.CornersOf(node)[0]] > 0) continue;
         if (!orientation.contains(node.identifier)) report.Add(Code::kFreeNode, node);
     }
 }

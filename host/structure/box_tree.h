@@ -35,8 +35,11 @@ struct Box {
     [[nodiscard]] Box Grown(double by) const;
     [[nodiscard]] bool Meets(const Box& other) const
     {
-        return low.x <= other.high.x && other.low.x <= high.x && low.y <= other.high.y &&
-               other.low.y <= high.y && low.z <= other.high.z && other.low.z <= high.z;
+        // All six at once: which of them says no cannot be foreseen.
+        const int meets = int{low.x <= other.high.x} & int{other.low.x <= high.x} &
+                          int{low.y <= other.high.y} & int{other.low.y <= high.y} &
+                          int{low.z <= other.high.z} & int{other.low.z <= high.z};
+        return meets != 0;
     }
     [[nodiscard]] bool Has(const Point& point) const
     {
@@ -123,6 +126,7 @@ template <class Use>
 void BoxTree::UsePairs(std::uint32_t first, std::uint32_t second, const Use& use) const
 {
     for (std::uint32_t i = FirstOf(first); i < EndOf(first); ++i) {
+        if (!boxes_[i].Meets(nodes_[second])) continue;
         for (std::uint32_t k = first == second ? i + 1 : FirstOf(second); k < EndOf(second); ++k) {
             if (boxes_[i].Meets(boxes_[k])) use(order_[i], order_[k]);
         }

@@ -47,7 +47,8 @@ void FindParts(Structure& structure)
     UnionFind sets(count);
     for (Index point = 0; point < count; ++point) {
         for (const Member& member : structure.membersAt[point]) {
-            sets.Unite(point, FirstPointOf(structure, member));
+            const Index first = FirstPointOf(structure, member);
+            if (first != point) sets.Unite(point, first);
         }
     }
     for (const Element& cable : structure.cables) {

@@ -112,14 +112,14 @@ TEST(HostileModels, CornersWithoutEnd)
 TEST(HostileModels, CoordinatesBeyondAllMeaning)
 {
     std::vector<std::string> lines;
-    for (const char* far : {"1e300", "-1e300", "1e308", "1e10", "1e9", "-1e9", "1e-300"}) {
-        const std::string at = std::string(far) + " 0 0 0 " + far + " 1 ";
+    for (const char* huge : {"1e300", "-1e300", "1e308", "1e10", "1e9", "-1e9", "1e-300"}) {
+        const std::string at = std::string(huge) + " 0 0 0 " + huge + " 1 ";
         lines.push_back(Line(2, 1, 2, at, kBar));
         lines.push_back(Line(3, 1, 3, at + "1 1 1", kSurface));
         lines.push_back(Line(6, 1, 2, at, " 0 0 0 1 1 1 1 0 0 1 0 0 0"));
         lines.push_back(Line(17, 1, 3, at + "1 1 1", " 0 0 0 4 4"));
         lines.push_back(Line(10, 1, 2, at, " 0 0 0 1 1 0 0 1 1 1 0 0 0 0 0 0 0 0 0 0"));
-        lines.push_back(Line(1, 1, 1, std::string(far) + " 0 0", " 0 0 0 0"));
+        lines.push_back(Line(1, 1, 1, std::string(huge) + " 0 0", " 0 0 0 0"));
     }
     for (int i = 0; i < kMany; ++i) {
         lines.push_back(Line(2, i, 2, At(i, 0, 0) + At(i + 1, 0, 0), kBar));
