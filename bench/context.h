@@ -32,5 +32,6 @@ void MeasureScaling(Context& context);
 void MeasureHostileFiles(Context& context);
 void MeasureRepeatedImports(Context& context);
 void MeasureThreads(Context& context);
+void MeasureCheck(Context& context);
 
 }  // namespace tamur::bench

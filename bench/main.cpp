@@ -27,6 +27,7 @@ const Group kGroups[] = {
     {"hostile", MeasureHostileFiles},
     {"repeated", MeasureRepeatedImports},
     {"threads", MeasureThreads},
+    {"check", MeasureCheck},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory

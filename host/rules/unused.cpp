@@ -1,0 +1,89 @@
+// What the tables hold and no element names.
+#include <set>
+
+#include "host/rules/rule.h"
+
+namespace tamur::host {
+namespace {
+
+struct Used {
+    std::vector<bool> materials, sections, releases;
+};
+
+void Mark(std::vector<bool>& used, Index place)
+{
+    if (place != kNone) used[place] = true;
+}
+
+Used UsedBy(const Structure& structure)
+{
+    Used used = {std::vector<bool>(structure.materials.size()),
+                 std::vector<bool>(structure.sections.size()),
+                 std::vector<bool>(structure.releases.size())};
+    for (const Bar& bar : structure.bars) {
+        Mark(used.materials, bar.material);
+        Mark(used.sections, bar.startSection);
+        Mark(used.sections, bar.endSection);
+        Mark(used.releases, bar.startRelease);
+        Mark(used.releases, bar.endRelease);
+    }
+    for (const Surface& surface : structure.surfaces) Mark(used.materials, surface.material);
+    return used;
+}
+
+// What a group gathers, as the numbers of its first column say.
+int GroupKindOf(Kind kind)
+{
+    switch (kind) {
+        case Kind::kPointSupport: return 1;
+        case Kind::kSurfaceSupport: return 4;
+        case Kind::kLineSupport: return 5;
+        default: return 0;
+    }
+}
+
+std::set<std::pair<int, int>> GroupsWithElements(const Structure& structure)
+{
+    std::set<std::pair<int, int>> full;
+    for (const Bar& bar : structure.bars) full.emplace(2, bar.group);
+    for (const Surface& surface : structure.surfaces) full.emplace(3, surface.group);
+    for (const Support& support : structure.supports) {
+        full.emplace(GroupKindOf(support.kind), support.group);
+    }
+    return full;
+}
+
+template <class Records>
+void ReportUnused(const Records& records, const std::vector<bool>& used, Code code, Kind kind,
+                  Report& report)
+{
+    for (Index rank = 0; rank < records.size(); ++rank) {
+        if (used[rank] || records[rank].isDefault) continue;
+        report.Add(code, {kind, rank, Finding::kNoIdentifier},
+                   [&] { return Values{records[rank].name}; });
+    }
+}
+
+}  // namespace
+
+void CheckUnused(const Model& model, Report& report)
+{
+    const Structure& structure = model.structure;
+    const Used used = UsedBy(structure);
+    ReportUnused(structure.materials, used.materials, Code::kUnusedMaterial, Kind::kMaterial,
+                 report);
+    ReportUnused(structure.sections, used.sections, Code::kUnusedSection, Kind::kSection, report);
+    ReportUnused(structure.releases, used.releases, Code::kUnusedRelease, Kind::kRelease, report);
+    const auto full = GroupsWithElements(structure);
+    for (Index rank = 0; rank < structure.groups.size(); ++rank) {
+        const Group& group = structure.groups[rank];
+        // Groups of what the reader does not know are not judged.
+        if (group.elements < 1 || group.elements > 5) continue;
+        if (full.contains({group.elements, group.number})) continue;
+        report.Add(Code::kUnusedGroup, {Kind::kGroup, rank, Finding::kNoIdentifier}, [&] {
+            return Values{std::to_string(group.number), group.title};
+        });
+    }
+}
+
+}  // namespace tamur::host

@@ -1,0 +1,42 @@
+// Which part of a line lies on bars and surfaces.
+#pragma once
+
+#include "host/structure/box_tree.h"
+#include "host/structure/structure.h"
+
+namespace tamur::host {
+
+struct Coverage {
+    double share = 0;             // of its length, 0 to 1
+    bool isOnSurface = false;     // some of it on a surface or a wall
+    std::vector<Member> members;  // bars and surfaces, each once
+};
+
+class CoverageSearch {
+ public:
+    explicit CoverageSearch(const Structure& structure);
+
+    // Walls carry too, and are not among the members.
+    [[nodiscard]] Coverage Cover(const Segment& line);
+
+    // Whether a bar or a surface begins in the polygon.
+    [[nodiscard]] bool HasMemberIn(const Polygon& polygon);
+
+    [[nodiscard]] bool IsComplete() const { return !budget_.IsSpent(); }
+
+ private:
+    struct Interval {
+        double from, to;
+    };
+    void AddBar(const Segment& line, Index bar);
+    bool AddSurface(const Segment& line, const Surface& surface);
+    [[nodiscard]] double CoveredShare(double gap);
+
+    const Structure& structure_;
+    BoxTree bars_, surfaces_;  // walls after surfaces
+    Budget budget_;
+    std::vector<Interval> intervals_;
+    std::vector<double> places_;
+};
+
+}  // namespace tamur::host
