@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "host/file/imported_file.h"
+#include "host/check.h"
 #include "support/model_text.h"
 
 namespace tamur::test {
@@ -19,7 +19,7 @@ inline std::string Utf8Path(const std::filesystem::path& path)
 // A file, what was imported of it, and what was found.
 struct CheckedFile {
     explicit CheckedFile(const std::filesystem::path& path)
-        : imported(host::ImportFile(Utf8Path(path), findings))
+        : imported(host::CheckFile(Utf8Path(path), findings).imported)
     {
     }
 

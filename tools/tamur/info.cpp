@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "host/findings/plain_text.h"
+#include "host/rules/check_model.h"
 #include "import.h"
 #include "messages.h"
 #include "tables.h"
@@ -113,6 +114,7 @@ void WriteInfo(const std::string& componentPath, const Input& input, std::ostrea
     host::Findings findings(0);
     const Imported imported = Import(componentPath, input, findings);
     ITAMURStructureReader& reader = *imported.reader;
+    host::CheckModel(reader, imported.lines, findings);
     // Sums of decimal numbers show as they were meant.
     out << std::setprecision(12);
     Entry(out, "file") << host::PlainText(input.Name(), input.Name().size()) << '\n';

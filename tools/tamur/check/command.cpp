@@ -61,16 +61,16 @@ int CheckOne(const Options& options, const std::string& file, const Console& con
 {
     const Input input(file, console.in);
     host::Findings findings(options.showsAll ? host::Findings::kAll : kShownOfEach, options.filter);
-    const host::ImportedFile checked = [&] {
+    const host::Checked checked = [&] {
         const Progress progress(console.errors, console.isErrorsTerminal,
                                 "tamur: checking " + input.Name());
         return host::CheckFile(input.Path(), findings);
     }();
     report.Add({.file = input.Name(),
                 .findings = findings,
-                .wasImported = !checked.refusal,
-                .balance = options.showsBalance ? &checked.balance : nullptr});
-    return ExitCodeOf(options, findings, !checked.refusal);
+                .wasImported = !checked.imported.refusal,
+                .balance = options.showsBalance ? &checked.imported.balance : nullptr});
+    return ExitCodeOf(options, findings, !checked.imported.refusal);
 }
 
 int CheckAll(const Options& options, const Console& console)
