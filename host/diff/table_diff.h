@@ -21,7 +21,7 @@ struct ModelSide {
 
 // What all tables of both models share.
 struct Comparing {
-    explicit Comparing(double near) : tolerance(near) { after.identities = &identities; }
+    explicit Comparing(double apart) : tolerance(apart) { after.identities = &identities; }
     Comparing(const Comparing&) = delete;
     Comparing& operator=(const Comparing&) = delete;
 
