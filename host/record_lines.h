@@ -1,6 +1,7 @@
-// Where the records of a model were written.
+// Where the records of a model were written, and which of them are not what was written.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +21,16 @@ class RecordLines {
         return rank < lines.size() ? lines[rank] : 0;
     }
 
+    // The line was read other than it is written. Whatever is odd about its record is a
+    // consequence.
+    void MarkMisread(std::uint32_t line) { misread_.push_back(line); }
+    // After the last mark.
+    void SortMisread() { std::sort(misread_.begin(), misread_.end()); }
+    [[nodiscard]] bool IsMisread(Kind kind, std::size_t rank) const
+    {
+        return std::binary_search(misread_.begin(), misread_.end(), At(kind, rank));
+    }
+
     [[nodiscard]] std::vector<std::uint32_t>& Of(Kind kind)
     {
         return lines_[static_cast<std::size_t>(kind)];
@@ -31,6 +42,7 @@ class RecordLines {
 
  private:
     std::array<std::vector<std::uint32_t>, kKindCount> lines_;
+    std::vector<std::uint32_t> misread_;
 };
 
 }  // namespace tamur::host

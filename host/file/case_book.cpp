@@ -18,7 +18,15 @@ void CaseBook::AddCase(std::int32_t number, std::int32_t type, std::uint32_t lin
 {
     cases_.push_back({number, line});
     const auto [state, isNew] = states_.try_emplace(number);
-    if (isNew) state->second.type = type;
+    if (!isNew) return;
+    state->second.type = type;
+    state->second.line = line;
+}
+
+std::uint32_t CaseBook::LineOf(std::int32_t number) const
+{
+    const auto state = states_.find(number);
+    return state != states_.end() ? state->second.line : 0;
 }
 
 // "12 → 10 → 99", cut after some.

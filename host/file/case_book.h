@@ -19,6 +19,9 @@ class CaseBook {
 
     [[nodiscard]] bool Has(std::int32_t number) const { return states_.contains(number); }
 
+    // Of the first case of that number; 0 when there is none.
+    [[nodiscard]] std::uint32_t LineOf(std::int32_t number) const;
+
     // Disables the case of a combination that was skipped; says which of its cases was to blame.
     [[nodiscard]] Finding SkipCombination(std::int32_t number, const std::vector<Reference>& cases);
     // Why the parameters of a combination have no case.
@@ -46,6 +49,7 @@ class CaseBook {
     // Of all cases of one number.
     struct State {
         std::int32_t type = 0;  // of the first
+        std::uint32_t line = 0;
         std::optional<Code> disabled;
         std::int32_t needed = 0;  // the case for which a combination was skipped,
         std::int32_t root = 0;    // and the one that is missing in the end

@@ -243,7 +243,7 @@ void ImportAudit::RefuseLoad(Kind kind)
     }
     // What could not be read explains what does not fit.
     const auto what = walked.problem.what;
-    if (what == Problem::What::kNone || what == Problem::What::kLeftOver) return;
+    if (what == Problem::What::kFine || what == Problem::What::kLeftOver) return;
     Drop(Code::kUnreadableLine);
     now_.why.reset();
 }
@@ -324,6 +324,7 @@ void ImportAudit::CloseKept()
     }
     if (LineFindings::IsPlain(walked) && walked.references.empty() && walked.cases.empty()) return;
     const SpokenLine line = Spoken();
+    if (LineFindings::IsMisread(walked)) MarkMisread();
     lineFindings_.Add(line, walked, Counts());
     if (now_.kind == Kind::kEnvelope) AddMissingCases(line);
 }
@@ -343,8 +344,16 @@ void ImportAudit::AddMissingCases(const SpokenLine& line)
     }
 }
 
+// Of parameters the case is what they were for.
+void ImportAudit::MarkMisread()
+{
+    const bool isParameters = section_ == SectionHeader::kCaseParameters;
+    lines_.MarkMisread(isParameters ? cases_.LineOf(now_.caseNumber) : now_.line);
+}
+
 void ImportAudit::CloseDropped()
 {
+    if (section_ == SectionHeader::kCaseParameters) MarkMisread();
     const Code code = *now_.dropped;
     const bool isLoad = now_.kind == Kind::kSelfWeight || now_.kind == Kind::kThermalLoad;
     const bool isInBook = isLoad && code != Code::kCountTooLarge;
@@ -430,6 +439,10 @@ void ImportAudit::FinishTables()
     take(Kind::kCase, cases_.KeptCases());
     take(Kind::kSelfWeight, cases_.KeptLoads(Kind::kSelfWeight));
     take(Kind::kThermalLoad, cases_.KeptLoads(Kind::kThermalLoad));
+    if (IsExplained(SectionHeader::kCaseParameters)) {
+        for (const std::uint32_t line : lines_.Of(Kind::kCase)) lines_.MarkMisread(line);
+    }
+    lines_.SortMisread();
     for (const auto& [number, line] : combinations_) {
         lines_.Of(Kind::kCombination).push_back(line);
     }

@@ -67,6 +67,7 @@ class ImportAudit final : public ImportObserver {
     void CloseLine();
     void CloseKept();
     void CloseDropped();
+    void MarkMisread();
     void KeepParameters();
     void Drop(Code why);
     void Drop(Finding why);

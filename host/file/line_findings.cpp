@@ -65,12 +65,19 @@ void LineFindings::Report(Code code, const SpokenLine& line, Span span, const Co
     findings_.Add(line.Of(std::move(finding)));
 }
 
+bool LineFindings::IsMisread(const WalkedLine& walked)
+{
+    const auto isOther = [](const Oddity& oddity) { return oddity.what != Oddity::What::kCode; };
+    return walked.problem.what != Problem::What::kFine ||
+           std::any_of(walked.oddities.begin(), walked.oddities.end(), isOther);
+}
+
 void LineFindings::Add(const SpokenLine& line, const WalkedLine& walked,
                        const ReferenceCounts& counts)
 {
     AddUtf8(line, walked);
     if (walked.problem.what == Problem::What::kEnds) return AddEnd(line, walked.problem);
-    if (walked.problem.what != Problem::What::kNone) return AddProblem(line, walked);
+    if (walked.problem.what != Problem::What::kFine) return AddProblem(line, walked);
     for (const Oddity& oddity : walked.oddities) AddOddity(line, oddity);
     AddReferences(line, walked, counts);
 }

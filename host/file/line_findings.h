@@ -50,9 +50,12 @@ class LineFindings {
     // Whether there is anything to say, apart from references.
     [[nodiscard]] static bool IsPlain(const WalkedLine& walked)
     {
-        return walked.problem.what == Problem::What::kNone && walked.oddities.empty() &&
+        return walked.problem.what == Problem::What::kFine && walked.oddities.empty() &&
                walked.utf8.end == 0;
     }
+
+    // Whether the record is other than the line means.
+    [[nodiscard]] static bool IsMisread(const WalkedLine& walked);
 
     // What depends on all lines.
     void Finish(const Balance& balance);

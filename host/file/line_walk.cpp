@@ -368,7 +368,7 @@ void LineWalk::NoteRest(const char* place)
 
 void LineWalk::NoteProblem(const Problem& problem)
 {
-    if (line_.problem.what != Problem::What::kNone) return;
+    if (line_.problem.what != Problem::What::kFine) return;
     line_.problem = problem;
     line_.problem.group = group_;
 }

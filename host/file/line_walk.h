@@ -22,7 +22,7 @@ struct Span {
 // What is first wrong with a line; everything after it may be a consequence.
 struct Problem {
     enum class What : std::uint8_t {
-        kNone,
+        kFine,
         kUnreadable,    // the text stands where the column is
         kTextInNumber,  // the same, right after texts: one of them has a blank
         kEnds,          // the line ends before the column
@@ -35,7 +35,7 @@ struct Problem {
         kUnended,  // no end marker
         kWordCut,  // the rest of the word is the next column
     };
-    What what = What::kNone;
+    What what = What::kFine;
     const Column* column = nullptr;
     Span text;
     std::uint32_t read = 0;      // the end of what was taken of the text

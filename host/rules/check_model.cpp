@@ -39,6 +39,7 @@ std::string LengthText(double value)
 void CheckModel(const Structure& structure, const LoadCases& cases, const RecordLines& lines,
                 Findings& findings)
 {
+    if (structure.IsEmpty()) return;  // that nothing is used follows
     const Model model = {structure, cases, SupportedPoints(structure), FindCrossings(structure)};
     Report report(lines, findings);
     for (const Rule rule : kRules) rule(model, report);

@@ -113,14 +113,6 @@ void CheckCombinations(const Model& model, Report& report)
     CheckMade(cases, CaseType::kCombination, cases.combinations, Code::kCombinationOfNothing,
               report);
     CheckMade(cases, CaseType::kEnvelope, cases.envelopes, Code::kEnvelopeOfNothing, report);
-    for (Index rank = 0; rank < cases.envelopes.size(); ++rank) {
-        const Combined& envelope = cases.envelopes[rank];
-        for (const int number : envelope.cases) {
-            if (cases.byNumber.contains(number)) continue;
-            report.Add(Code::kEnvelopeOfUnknownCase, {Kind::kEnvelope, rank, envelope.number},
-                       [&] { return Values{std::to_string(number)}; });
-        }
-    }
 }
 
 }  // namespace tamur::host

@@ -37,10 +37,12 @@ class Report {
  public:
     Report(const RecordLines& lines, Findings& findings) : lines_(lines), findings_(findings) {}
 
-    // makeValues() is called when the finding is held.
+    // makeValues() is called when the finding is held. What follows from a line that was misread
+    // has been said of the line.
     template <class MakeValues>
     void Add(Code code, const About& about, const MakeValues& makeValues)
     {
+        if (lines_.IsMisread(about.kind, about.rank)) return;
         if (!findings_.Holds(code)) return findings_.Count(code);
         findings_.Add({code,
                        {.line = lines_.At(about.kind, about.rank)},

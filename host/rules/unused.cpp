@@ -80,9 +80,8 @@ void CheckUnused(const Model& model, Report& report)
         // Groups of what the reader does not know are not judged.
         if (group.elements < 1 || group.elements > 5) continue;
         if (full.contains({group.elements, group.number})) continue;
-        report.Add(Code::kUnusedGroup, {Kind::kGroup, rank, Finding::kNoIdentifier}, [&] {
-            return Values{std::to_string(group.number), group.title};
-        });
+        report.Add(Code::kUnusedGroup, {Kind::kGroup, rank, group.number},
+                   [&] { return Values{group.title}; });
     }
 }
 

@@ -186,6 +186,8 @@ struct Structure {
     std::vector<Index> partOf;  // of each point: the part of the structure, or kNone
     Index partCount = 0;
 
+    // Without any element.
+    [[nodiscard]] bool IsEmpty() const { return corners.empty() && groupLoads.empty(); }
     [[nodiscard]] std::span<const Index> CornersOf(const Element& element) const
     {
         return std::span<const Index>(corners).subspan(element.firstCorner, element.cornerCount);

@@ -16,10 +16,13 @@ inline std::string Utf8Path(const std::filesystem::path& path)
     return std::string(text.begin(), text.end());
 }
 
-// A file, what was imported of it, and what was found.
+// A file, what was imported of it, and what was found: in the file, or in its model too.
 struct CheckedFile {
-    explicit CheckedFile(const std::filesystem::path& path)
-        : imported(host::CheckFile(Utf8Path(path), findings).imported)
+    enum class Scope { kFile, kModelToo };
+
+    explicit CheckedFile(const std::filesystem::path& path, Scope scope = Scope::kFile)
+        : imported(scope == Scope::kFile ? host::ImportFile(Utf8Path(path), findings)
+                                         : host::CheckFile(Utf8Path(path), findings).imported)
     {
     }
 

@@ -36,16 +36,10 @@ std::string CodeOf(const fs::path& fixture)
 // What no file of the folder can show: see Refusals in file_findings_test.cpp.
 const std::set<std::string> kWithoutFile = {"TMR001", "TMR006", "TMR011"};
 
-// Of which kind of check a code is.
-bool IsAboutTheFile(const host::CodeInfo& info)
-{
-    return static_cast<int>(info.code) < 400;
-}
-
 TEST(Fixtures, GiveTheirCodeAndNoOther)
 {
     for (const fs::path& fixture : AllFixtures()) {
-        const CheckedFile file(fixture);
+        const CheckedFile file(fixture, CheckedFile::Scope::kModelToo);
         EXPECT_THAT(file.Codes(), ElementsAre(CodeOf(fixture)))
             << fixture.filename() << '\n'
             << testing::PrintToString(file.Lines());
@@ -64,7 +58,6 @@ TEST(Fixtures, AreThereForEveryCode)
     std::set<std::string> shown = kWithoutFile;
     for (const fs::path& fixture : AllFixtures()) shown.insert(CodeOf(fixture));
     for (const host::CodeInfo& info : host::AllCodes()) {
-        if (!IsAboutTheFile(info)) continue;
         EXPECT_EQ(shown.count(host::IdOf(info.code)), 1) << host::IdOf(info.code);
     }
 }
@@ -81,26 +74,29 @@ TEST(Fixtures, AreAboutCodesThatExist)
 // The pages that tell users what a code means.
 TEST(Fixtures, AreExplainedInTheDocuments)
 {
-    std::ifstream page(fs::path(TAMUR_SOURCES) / "docs" / "check" / "file.md");
     std::vector<std::string> explained;
-    for (std::string line; std::getline(page, line);) {
-        constexpr std::string_view kStart = "### ";
-        if (line.starts_with(std::string(kStart) + "TMR")) {
-            explained.push_back(CodeOf(line.substr(kStart.size())));
+    for (const char* name : {"file.md", "model.md"}) {
+        std::ifstream page(fs::path(TAMUR_SOURCES) / "docs" / "check" / name);
+        for (std::string line; std::getline(page, line);) {
+            constexpr std::string_view kStart = "### ";
+            if (line.starts_with(std::string(kStart) + "TMR")) {
+                explained.push_back(CodeOf(line.substr(kStart.size())));
+            }
         }
     }
     std::vector<std::string> codes;
-    for (const host::CodeInfo& info : host::AllCodes()) {
-        if (IsAboutTheFile(info)) codes.push_back(host::IdOf(info.code));
-    }
+    for (const host::CodeInfo& info : host::AllCodes()) codes.push_back(host::IdOf(info.code));
     EXPECT_EQ(explained, codes);
 }
 
-TEST(Samples, GiveNothing)
+TEST(Samples, GiveNotesAtMost)
 {
     for (const char* name : {"batiment", "hall", "portique"}) {
-        const CheckedFile file(SampleFile(name));
-        EXPECT_THAT(file.Lines(), testing::IsEmpty()) << name;
+        const CheckedFile file(SampleFile(name), CheckedFile::Scope::kModelToo);
+        for (const host::Finding& finding : file.findings.InFileOrder()) {
+            EXPECT_EQ(InfoOf(finding.code).severity, host::Severity::kNote)
+                << name << ' ' << TextOf(finding, host::Language::kEnglish);
+        }
         EXPECT_TRUE(file.imported.balance.AddsUp()) << name;
     }
 }

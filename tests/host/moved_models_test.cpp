@@ -105,6 +105,7 @@ std::vector<std::pair<std::string, std::string>> Models()
             const std::string name = entry.path().filename().string();
             if (name.starts_with("TMR430") || (name.starts_with("TMR") && name < "TMR400"))
                 continue;
+            if (name == "erreurs.txt") continue;  // not every line is in a section
             models.emplace_back(name, Contents(entry.path()));
         }
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <regex>
+#include <set>
 
 #include "support/model_text.h"
 #include "tool_run.h"
@@ -79,7 +80,7 @@ TEST(Check, CollapsesRepeatsUnlessAllAreAskedFor)
 TEST(Check, CountsOnlyTheCodesAskedFor)
 {
     EXPECT_EQ(CheckText(Cantilever(1), {"--ignore", "TMR201"}).exitCode, 0);
-    EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR1,TMR4"}).exitCode, 0);
+    EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR4,TMR5"}).exitCode, 0);
     EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR2"}).exitCode, 1);
     EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR999"}).exitCode, 2);
 }
@@ -112,6 +113,24 @@ TEST(Check, RefusedFilesAreFindingsToo)
     const json file = CheckJson(ModelText("9.9")).at("files").at(0);
     EXPECT_EQ(file.at("imported"), false);
     EXPECT_EQ(file.at("findings").at(0).at("code"), "TMR004");
+}
+
+// What the README shows.
+TEST(Check, FindsEachMistakeOfTheFaultySample)
+{
+    const ToolRun run = RunTool({"check", "--format", "json", "--all", Sample("erreurs")});
+    EXPECT_EQ(run.exitCode, 1);
+    std::set<std::string> codes;
+    const json document = json::parse(run.output);
+    for (const json& finding : document.at("files").at(0).at("findings")) {
+        codes.insert(finding.at("code").get<std::string>());
+    }
+    EXPECT_THAT(codes,
+                testing::UnorderedElementsAre(
+                    "TMR102", "TMR103", "TMR106", "TMR107", "TMR201", "TMR202", "TMR207", "TMR209",
+                    "TMR217", "TMR218", "TMR220", "TMR221", "TMR222", "TMR301", "TMR304", "TMR306",
+                    "TMR315", "TMR402", "TMR403", "TMR408", "TMR413", "TMR416", "TMR420", "TMR501",
+                    "TMR503", "TMR504", "TMR604", "TMR614", "TMR631"));
 }
 
 TEST(Check, SpeaksFrench)
