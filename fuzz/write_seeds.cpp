@@ -73,10 +73,7 @@ void WriteModels(const std::filesystem::path& folder)
     SeedFolder pairs(folder / "two_files");
     SeedFolder elements(folder / "element_line");
     SeedFolder parameters(folder / "parameter_line");
-    for (const std::string& text : LargeModels()) {
-        models.Add(text);
-        elements.Add(LinesBehind(text, "#Elements"));
-    }
+    for (const std::string& text : LargeModels()) models.Add(text);
     for (std::size_t i = 0; i < seeds.size(); ++i) {
         const std::string& text = seeds[i].text;
         models.Add(text);
