@@ -43,6 +43,29 @@ std::string_view LinesAfter(std::string_view text, std::string_view header)
     return text.substr(0, std::min(text.find("\n#"), text.size() - 1) + 1);
 }
 
+// Models that the 256 KiB of the import's buffer do not hold at once, with lines around the
+// greatest length, 49999 characters: one is first, one lies over the end of the buffer.
+std::vector<std::string> LargeModels()
+{
+    constexpr std::size_t kBuffer = std::size_t{256} << 10;
+    constexpr std::size_t kLongest = 49999;
+    std::vector<std::string> models;
+    for (const std::string_view end : {"\n", "\r\n"}) {
+        for (const std::size_t length : {kLongest - 1, kLongest, kLongest + 1}) {
+            const std::string node = "1 1 0 1 1 1 2 3 ";
+            const std::string longLine = node + std::string(length - node.size(), 'x');
+            std::string text = "#Version\n15.0\n#Elements\n";
+            text += longLine;
+            for (text += end; text.size() < kBuffer - length / 2; text += end) text += node + "A";
+            text += longLine;
+            text += end;
+            text += "2 1 0 2 1 0 0 0 1 1 1 B 0 0 0 1\n#Cas\n1 G 1 G 0\n";
+            models.push_back(text);
+        }
+    }
+    return models;
+}
+
 void WriteModels(const std::filesystem::path& folder)
 {
     const std::vector<Seed> seeds = Seeds();
@@ -50,6 +73,7 @@ void WriteModels(const std::filesystem::path& folder)
     SeedFolder pairs(folder / "two_files");
     SeedFolder elements(folder / "element_line");
     SeedFolder parameters(folder / "parameter_line");
+    for (const std::string& text : LargeModels()) models.Add(text);
     for (std::size_t i = 0; i < seeds.size(); ++i) {
         const std::string& text = seeds[i].text;
         models.Add(text);

@@ -40,9 +40,10 @@ void Arena::StartBlock(std::size_t size)
 {
     // Whatever is taken, a multiple of the alignment is taken.
     const std::size_t needed = (size + kAlignment - 1) / kAlignment * kAlignment;
-    const std::size_t capacity = std::max(UsualBlock(), needed);
+    const std::size_t capacity = std::max(UsualBlock(), needed + sanitizer::kGap);
     next_ = AddBlock(capacity);
     end_ = next_ + capacity;
+    sanitizer::Forbid(next_, capacity);
 }
 
 char* Arena::AllocateFromBlock(std::size_t size)

@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "model/sanitizer.h"
 #include "platform/platform.h"
 
 namespace tamur {
@@ -23,9 +24,10 @@ class Arena {
     // Uninitialised memory.
     [[nodiscard]] char* Allocate(std::size_t size)
     {
-        if (size > Room()) return AllocateFromBlock(size);
+        if (size + sanitizer::kGap > Room()) return AllocateFromBlock(size);
         char* const memory = next_;
-        Commit(memory + size);
+        sanitizer::AllowSpoilt(memory, size);
+        Take(memory + size);
         return memory;
     }
 
@@ -51,17 +53,25 @@ class Arena {
     // Commit says; until then it is not taken at all.
     [[nodiscard]] char* Reserve(std::size_t size)
     {
-        if (size > Room()) StartBlock(size);
+        if (size + sanitizer::kGap > Room()) StartBlock(size);
+        sanitizer::AllowSpoilt(next_, size);
         return next_;
     }
     void Commit(const char* end)
     {
-        const std::size_t used = static_cast<std::size_t>(end - next_);
-        next_ += (used + kAlignment - 1) / kAlignment * kAlignment;
+        sanitizer::Forbid(end, static_cast<std::size_t>(end_ - end));
+        Take(end);
     }
 
  private:
     static constexpr std::size_t kAlignment = 8;
+
+    // The next piece begins some way after `end`.
+    void Take(const char* end)
+    {
+        const std::size_t used = static_cast<std::size_t>(end - next_);
+        next_ += (used + kAlignment - 1) / kAlignment * kAlignment + sanitizer::kGap;
+    }
 
     [[nodiscard]] std::size_t Room() const { return static_cast<std::size_t>(end_ - next_); }
     [[nodiscard]] std::size_t UsualBlock() const;

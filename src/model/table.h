@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/arena.h"
+#include "model/sanitizer.h"
 
 namespace tamur {
 
@@ -43,7 +44,11 @@ class Table {
     }
 
     // Keeps the first `size` records.
-    void Truncate(std::size_t size) { size_ = size; }
+    void Truncate(std::size_t size)
+    {
+        size_ = size;
+        if constexpr (sanitizer::kIsOn) chunks_.resize(size);  // so that the others cannot be had
+    }
 
  private:
     // The chunk is left uninitialised: as long as it is not used it costs address space only.
@@ -53,7 +58,9 @@ class Table {
     }
 
     static constexpr std::size_t kChunkBytes = std::size_t{16} << 10;
-    static constexpr std::size_t kChunk = std::bit_floor(kChunkBytes / sizeof(T));
+    // The sanitizer sees where a piece of an arena ends: then each record is one.
+    static constexpr std::size_t kChunk =
+        sanitizer::kIsOn ? 1 : std::bit_floor(kChunkBytes / sizeof(T));
     static constexpr int kShift = std::countr_zero(kChunk);
     static constexpr std::size_t kMask = kChunk - 1;
 

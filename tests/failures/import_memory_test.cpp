@@ -2,6 +2,9 @@
 // the next reader works.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "linked/memory_watch.h"
 #include "linked/quiet_boxes.h"
 #include "failures/seed_files.h"
@@ -11,19 +14,34 @@ namespace {
 
 constexpr Failing kWays[] = {Failing::kOnce, Failing::kFromThereOn};
 
+std::vector<LONG> NodesOf(ITAMURStructureReader& reader)
+{
+    std::vector<LONG> identifiers;
+    for (const auto& node : Nodes(reader)) identifiers.push_back(node->identifier);
+    return identifiers;
+}
+
+// An import adds its nodes to those that are there.
+bool EndsWith(const std::vector<LONG>& nodes, const std::vector<LONG>& added)
+{
+    return nodes.size() >= added.size() && std::equal(added.rbegin(), added.rend(), nodes.rbegin());
+}
+
 struct Attempt {
     Outcome outcome;
+    Outcome next;   // of an import into the same reader that nothing disturbs
+    bool hasNodes;  // of the file, after that one
     bool hasFailed;
     std::int64_t blocksLeft;
 };
 
-// What the reader holds afterwards is read in full, too, and then once more after an import into
-// the same reader that nothing disturbs.
-Attempt ImportFailing(const std::filesystem::path& path, std::uint64_t allocation, Failing how)
+// What the reader holds afterwards is read in full, too.
+Attempt ImportFailing(const std::filesystem::path& path, std::uint64_t allocation, Failing how,
+                      const std::vector<LONG>& nodes)
 {
     const String name(Wide(path.string()).c_str());
-    MemoryWatch memory;
     Attempt attempt = {};
+    MemoryWatch memory;
     {
         const auto reader = NewReader();
         memory.FailAt(allocation, how);
@@ -31,8 +49,9 @@ Attempt ImportFailing(const std::filesystem::path& path, std::uint64_t allocatio
         memory.FailNoMore();
         attempt.hasFailed = memory.HasFailed();
         attempt.outcome.digest = ReadEverything(*reader);
-        (void)reader->Import(name.Get());
-        (void)ReadEverything(*reader);
+        attempt.next.result = reader->Import(name.Get());
+        attempt.next.digest = ReadEverything(*reader);
+        attempt.hasNodes = EndsWith(NodesOf(*reader), nodes);
     }
     attempt.blocksLeft = memory.BlocksAlive();
     return attempt;
@@ -53,14 +72,25 @@ std::uint64_t FailEveryAllocation(const std::string& text)
     const TemporaryFile file(text);
     const Outcome expected = ImportUndisturbed(file.Path());
     const std::uint64_t count = CountAllocations(file.Path());
+    const std::uint64_t nothing = ReadEverything(*NewReader());
+    const auto fresh = NewReader();
+    (void)ImportFile(*fresh, file.Path());
+    const std::vector<LONG> nodes = NodesOf(*fresh);
+    int fromNothing = 0;
     for (const Failing how : kWays) {
         for (std::uint64_t i = 1; i <= count; ++i) {
-            const Attempt attempt = ImportFailing(file.Path(), i, how);
+            const Attempt attempt = ImportFailing(file.Path(), i, how, nodes);
             EXPECT_TRUE(attempt.hasFailed) << i;
             EXPECT_EQ(attempt.blocksLeft, 0) << i;
             EXPECT_EQ(attempt.outcome.result, E_OUTOFMEMORY) << i;
+            EXPECT_EQ(attempt.next.result, expected.result) << i;
+            EXPECT_TRUE(attempt.hasNodes) << i;
+            if (attempt.outcome.digest != nothing) continue;
+            EXPECT_TRUE(attempt.next == expected) << i;
+            ++fromNothing;
         }
     }
+    EXPECT_GT(fromNothing, 2);  // the first allocations of any import
     EXPECT_TRUE(ImportUndisturbed(file.Path()) == expected);
     return count;
 }
@@ -159,7 +189,7 @@ TEST(FailingMemory, AMissingFileThatCannotBeToldAboutIsOutOfMemory)
     ASSERT_GT(count, 0u);
     for (const Failing how : kWays) {
         for (std::uint64_t i = 1; i <= count; ++i) {
-            const Attempt attempt = ImportFailing(missing, i, how);
+            const Attempt attempt = ImportFailing(missing, i, how, {});
             EXPECT_EQ(attempt.outcome.result, E_OUTOFMEMORY) << i;
             EXPECT_EQ(attempt.blocksLeft, 0) << i;
         }

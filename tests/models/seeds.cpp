@@ -61,6 +61,22 @@ constexpr std::string_view kElements[] = {
     "22 1 0 2 1 0 0 0 5 0 0 C 0 0 0 1 0 5 1.0 2 1.5\n",
 };
 
+// Lists and labels as dense as a line can have them: what the import reserves for the longest is
+// used up, so that a byte too few shows.
+constexpr std::string_view kDense =
+    "#Version\n15.0\n#SP\n2\n#Espace\n1\n#Tolerance\n0.001\n#Rigide\n1\n"
+    "#Geometries\nS 1 2 3 4 5 6 7 8 9 10 11 6 S 1 1 2 2 3 3 4 4 5 5 6 6 7\n"
+    "#Cas\n1 G 1 G 0\n2 Q 1 Q 0\n3 M 3 M 0\n4 S 4 S 0\n9 E 9 E 0\n10 C 2 C 0\n#TAB_PARAM_CAS\n"
+    "3 3 9 9 9 9 1 1 1 2 1 0 0 0 0 0 0 0 0 0 0 0 0 1 w 41 O w 1 2 3 4 5 6 7 8 9\n"
+    "4 4 N O N w 1 2 3 O 1 2 5 1 1 2 2 3 3 4 4 inf inf\n"
+    "9 9 1 1 2 3 4 5 6 7 8 O 9 1 2 3 4 5 6 7 8 9\n"
+    "10 2 2 1.5 1 1.35 4 1 32767 0\n"
+    "#Elements\n1 1 0 1 20 1 2 3 AB CD EF GH IJ KL MN OP QR ST AB CD EF GH IJ KL MN OP QR ST 0 0 "
+    "0\n"
+    "1 2 0 1 3 1 2 3 A BCD E 0 0 0\n1 3 0 1 0 1 2 3 0 0 0\n"
+    "2 1 0 2 20 0 0 0 3 4 5 AB CD EF GH IJ KL MN OP QR ST AB CD EF GH IJ KL MN OP QR ST 0 0 0\n"
+    "3 1 0 3 0 0 0 0 1 0 0 1 1 0 0 0 0\n20 1 0 3 0 0 0 0 1 0 0 1 1 0 0 0 0\n";
+
 template <std::size_t N>
 std::string_view Cycle(const std::string_view (&texts)[N], std::size_t i)
 {
@@ -81,9 +97,9 @@ std::string WithCarriageReturns(const std::string& text)
 
 std::vector<Seed> Seeds()
 {
-    constexpr std::size_t kCount = 112;
+    constexpr std::size_t kMixed = 112;
     std::vector<Seed> seeds;
-    for (std::size_t i = 0; i < kCount; ++i) {
+    for (std::size_t i = 0; i < kMixed; ++i) {
         std::string text = "#Version\n"s;
         text += Cycle(kVersions, i);
         text += "\n#SP\n2\n#Espace\n1\n#Tolerance\n0.001\n#Rigide\n1\n";
@@ -95,6 +111,7 @@ std::vector<Seed> Seeds()
         if (i % 4 == 3) text = WithCarriageReturns(text);
         seeds.push_back({"seed " + std::to_string(i), text});
     }
+    seeds.push_back({"dense", std::string(kDense)});
     return seeds;
 }
 

@@ -41,7 +41,9 @@ class Digest {
     {
         const UINT length = SysStringByteLen(text);
         AddBytes(&length, sizeof length);
-        if (text != nullptr) AddBytes(text, length + sizeof(OLECHAR));  // with its NUL
+        if (text == nullptr) return;
+        AddBytes(text, length + sizeof(OLECHAR));  // with its NUL
+        Check(text[length / sizeof(OLECHAR)] == 0 ? S_OK : E_FAIL, "a string's NUL");
     }
     void AddBytes(const void* bytes, std::size_t size)
     {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/arena.h"
+#include "model/sanitizer.h"
 #include "model/text.h"
 
 namespace tamur {
@@ -50,9 +51,10 @@ TEST(ArenaRoom, IsTakenOnlyAsFarAsItIsCommitted)
     char* const first = arena.Reserve(1000);
     EXPECT_EQ(arena.Reserve(1000), first);
     arena.Commit(first + 3);
-    EXPECT_EQ(arena.Reserve(1000), first + 8);
-    EXPECT_EQ(arena.Allocate(8), first + 8);
-    EXPECT_EQ(arena.Allocate(8), first + 16);
+    constexpr std::size_t kStep = 8 + sanitizer::kGap;
+    EXPECT_EQ(arena.Reserve(1000), first + kStep);
+    EXPECT_EQ(arena.Allocate(8), first + kStep);
+    EXPECT_EQ(arena.Allocate(8), first + 2 * kStep);
 }
 
 TEST(ArenaRoom, HoldsTextsOfEveryLength)

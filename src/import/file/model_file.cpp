@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "import/file/find_byte.h"
-#include "import/scan/characters.h"
 
 namespace tamur {
 namespace {
@@ -59,6 +58,7 @@ bool ModelFile::FindSectionHeader(SectionHeader header)
 
 bool ModelFile::ReadModelLine(Line& line)
 {
+    Show();
     char* end = const_cast<char*>(FindByte(next_, filled_, '\n'));
     if (end == filled_ || end - next_ >= static_cast<std::ptrdiff_t>(kLongestLine)) {
         return ReadUnusualLine(line);
@@ -66,8 +66,9 @@ bool ModelFile::ReadModelLine(Line& line)
     line.text = next_;
     next_ = end + 1;
     if (end != line.text && end[-1] == '\r') --end;
-    *end = '\0';
     line.end = end;
+    ShowOnly(line);
+    *end = '\0';
     return true;
 }
 
@@ -83,13 +84,16 @@ bool ModelFile::ReadUnusualLine(Line& line)
     if (isCut) {
         // What follows in the buffer is the next line: the NUL needs a place of its own.
         if (cutLine_ == nullptr) cutLine_ = std::make_unique<char[]>(kLongestLine + kScanPadding);
+        sanitizer::Forbid(cutLine_.get() + kLongestLine + 1, kScanPadding - 1);
         std::memcpy(cutLine_.get(), next_, extent.text);
         line.text = cutLine_.get();
         line.end = line.text + extent.text;
+        ShowOnly(line);
     } else {
-        next_[extent.text] = '\0';
         line.text = next_;
         line.end = line.text + extent.text;
+        ShowOnly(line);
+        next_[extent.text] = '\0';
     }
     next_ += extent.next;
     return true;
@@ -192,6 +196,7 @@ void ModelFile::Seek(std::uint64_t offset)
 void ModelFile::Fill()
 {
     const std::size_t kept = static_cast<std::size_t>(filled_ - next_);
+    sanitizer::Allow(buffer_.get(), kBufferSize + kScanPadding);
     std::memmove(buffer_.get(), next_, kept);
     next_ = buffer_.get();
     filled_ = next_ + kept;
@@ -212,6 +217,7 @@ void ModelFile::Fill()
         fileOffset_ += got;
     }
     std::memset(filled_, 0, kScanPadding);
+    sanitizer::Forbid(filled_ + kScanPadding, static_cast<std::size_t>(bufferEnd - filled_));
 }
 
 }  // namespace tamur

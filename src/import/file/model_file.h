@@ -7,6 +7,8 @@
 
 #include "import/observer.h"
 #include "import/file/section_header.h"
+#include "import/scan/characters.h"
+#include "model/sanitizer.h"
 #include "platform/platform.h"
 
 namespace tamur {
@@ -81,6 +83,19 @@ class ModelFile {
     [[nodiscard]] std::uint64_t OffsetOf(const char* place) const
     {
         return fileOffset_ - static_cast<std::uint64_t>(filled_ - place);
+    }
+
+    // What of the buffer the sanitizer lets be touched: all that is filled, or the line in hand
+    // with its NUL.
+    void Show() const { sanitizer::Allow(buffer_.get(), Shown()); }
+    void ShowOnly(const Line& line) const
+    {
+        sanitizer::Forbid(buffer_.get(), Shown());
+        sanitizer::Allow(line.text, static_cast<std::size_t>(line.end - line.text) + 1);
+    }
+    [[nodiscard]] std::size_t Shown() const
+    {
+        return static_cast<std::size_t>(filled_ + kScanPadding - buffer_.get());
     }
 
     platform::BlockSource& source_;

@@ -71,7 +71,8 @@ bool PlainDecimal(const char* at, const char* end, double& value)
     if (static_cast<std::size_t>(length - 1) > kMostDigits) return false;
 
     // Which of the characters are digits, and which is the point.
-    const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    sanitizer::ExpectAllowed(at);
+    const __m128i text = sanitizer::LoadAhead<__m128i>(at);
     const __m128i digits = _mm_sub_epi8(text, _mm_set1_epi8('0'));
     const __m128i areDigits = _mm_cmpeq_epi8(_mm_min_epu8(digits, _mm_set1_epi8(9)), digits);
     const __m128i arePoints = _mm_cmpeq_epi8(text, _mm_set1_epi8('.'));

@@ -3,7 +3,8 @@
 
 #include <bit>
 #include <cstdint>
-#include <cstring>
+
+#include "model/sanitizer.h"
 
 namespace tamur {
 
@@ -11,9 +12,8 @@ static_assert(std::endian::native == std::endian::little);
 
 inline std::uint64_t LoadWord(const char* text)
 {
-    std::uint64_t word;
-    std::memcpy(&word, text, sizeof word);
-    return word;
+    sanitizer::ExpectAllowed(text);
+    return sanitizer::LoadAhead<std::uint64_t>(text);
 }
 
 // How many of the eight characters are digits before the first that is none.

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "model/sanitizer.h"
+
 namespace tamur {
 
 // Finds the ends of tokens ahead of the reading: then where a token starts does not depend on how
@@ -22,10 +24,11 @@ class TokenWindow {
     // Looks at the characters from `at` on; the line ends at `lineEnd`.
     void MoveTo(const char* at, const char* lineEnd)
     {
+        sanitizer::ExpectAllowed(at);
         std::uint64_t blanks = 0;
         std::uint64_t others = 0;
         for (int i = 0; i < kSize; i += 16) {
-            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + i));
+            const __m128i bytes = sanitizer::LoadAhead<__m128i>(at + i);
             blanks |= Mask(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(' '))) << i;
             others |= Mask(IsOtherSpace(bytes)) << i;
         }
