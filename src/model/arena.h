@@ -62,6 +62,18 @@ class Arena {
         sanitizer::Forbid(end, static_cast<std::size_t>(end_ - end));
         Take(end);
     }
+    // The same for values of one type.
+    template <class T>
+    [[nodiscard]] T* ReserveArray(std::size_t most)
+    {
+        static_assert(std::is_trivially_copyable_v<T> && alignof(T) <= kAlignment);
+        return reinterpret_cast<T*>(Reserve(most * sizeof(T)));
+    }
+    template <class T>
+    void CommitArray(const T* end)
+    {
+        Commit(reinterpret_cast<const char*>(end));
+    }
 
  private:
     static constexpr std::size_t kAlignment = 8;

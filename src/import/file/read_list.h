@@ -34,14 +34,14 @@ template <class T>
     list.count = count;
     if (count <= 0) return list;
     const std::size_t most = std::min(static_cast<std::size_t>(count), MostValues(tokens.Left()));
-    T* const values = reinterpret_cast<T*>(arena.Reserve(most * sizeof(T)));
+    T* const values = arena.ReserveArray<T>(most);
     for (; list.held < count; ++list.held) {
         T value = {};
         tokens >> value;
         if (tokens.Failed()) break;
         values[list.held] = value;
     }
-    arena.Commit(reinterpret_cast<const char*>(values + list.held));
+    arena.CommitArray(values + list.held);
     if (list.held > 0) list.values = values;
     return list;
 }

@@ -19,8 +19,7 @@ List<double> ReadCoordinates(StreamScanner& tokens, const Outline& outline, Aren
     list.count = outline.pointCount * stride;
     const std::size_t most =
         std::min(static_cast<std::size_t>(outline.pointCount), MostValues(tokens.Left()));
-    double* const values = reinterpret_cast<double*>(
-        arena.Reserve(most * static_cast<std::size_t>(stride) * sizeof(double)));
+    double* const values = arena.ReserveArray<double>(most * static_cast<std::size_t>(stride));
     double* end = values;
     for (; list.held < list.count; list.held += stride, end += stride) {
         double x = 0;
@@ -30,7 +29,7 @@ List<double> ReadCoordinates(StreamScanner& tokens, const Outline& outline, Aren
         end[0] = x;
         tokens >> end[1];
     }
-    arena.Commit(reinterpret_cast<const char*>(end));
+    arena.CommitArray(end);
     if (list.held > 0) list.values = values;
     if (outline.code != 'S') return list;
     for (double* point = values; point != end; point += stride) tokens >> point[2];

@@ -31,6 +31,7 @@ struct Options {
     bool countsNotes = false;
     bool exitsZero = false;
     bool showsBalance = false;
+    bool showsSums = false;
 };
 
 bool HasColours(Colour colour, bool isTerminal)
@@ -68,8 +69,9 @@ int CheckOne(const Options& options, const std::string& file, const Console& con
     }();
     report.Add({.file = input.Name(),
                 .findings = findings,
-                .wasImported = !checked.imported.refusal,
-                .balance = options.showsBalance ? &checked.imported.balance : nullptr});
+                .checked = checked,
+                .showsBalance = options.showsBalance,
+                .showsSums = options.showsSums});
     return ExitCodeOf(options, findings, !checked.imported.refusal);
 }
 
@@ -135,6 +137,7 @@ void AddCheckCommand(CLI::App& app, Task& task)
         ->type_name("WHEN");
     command->add_flag("--all", options->showsAll, "every finding, not the first of each code");
     command->add_flag("--balance", options->showsBalance, "what became of every line");
+    command->add_flag("--sums", options->showsSums, "sums of loads, masses, lengths and areas");
     command->add_flag("--strict", options->countsNotes, "notes make exit code 1 too");
     command->add_flag("--exit-zero", options->exitsZero, "exit code 0 whatever is found");
     command->callback([&task, options] {

@@ -1,5 +1,6 @@
 // One object a check; docs/check.md describes it.
 #include "report.h"
+#include "section_names.h"
 #include "../json_text.h"
 #include "host/file/header_names.h"
 
@@ -59,6 +60,33 @@ Json ToJson(const host::Balance& balance)
     return json;
 }
 
+Json SumsToJson(const host::Checked& checked)
+{
+    const host::Sums& sums = *checked.sums;
+    Json json = {{"cases", Json::array()},
+                 {"masses", sums.masses},
+                 {"lengths", Json::array()},
+                 {"areas", Json::array()}};
+    for (const host::CaseSum& sum : sums.cases) {
+        Json frames = Json::array();
+        for (const auto& [frame, forces] : sum.byFrame) {
+            frames.push_back({{"frame", frame}, {"forces", forces}});
+        }
+        json["cases"].push_back({{"number", sum.number},
+                                 {"title", sum.title},
+                                 {"loads", sum.loads},
+                                 {"frames", std::move(frames)}});
+    }
+    for (const auto& [ends, length] : sums.lengths) {
+        json["lengths"].push_back(
+            {{"section", SectionNames(ends, checked.sections)}, {"length", length}});
+    }
+    for (const auto& [thickness, area] : sums.areas) {
+        json["areas"].push_back({{"thickness", thickness}, {"area", area}});
+    }
+    return json;
+}
+
 class JsonReport final : public Report {
  public:
     JsonReport(Style style, std::ostream& out) : style_(style), out_(out)
@@ -69,7 +97,7 @@ class JsonReport final : public Report {
 
     void Add(const FileReport& report) override
     {
-        Json file = {{"file", report.file}, {"imported", report.wasImported}};
+        Json file = {{"file", report.file}, {"imported", report.WasImported()}};
         for (const Severity severity : {Severity::kError, Severity::kWarning, Severity::kNote}) {
             const std::string name = std::string(NameOf(severity, Language::kEnglish)) + 's';
             file["summary"][name] = report.findings.CountOf(severity);
@@ -82,7 +110,10 @@ class JsonReport final : public Report {
         for (const auto& [code, count] : report.findings.NotHeld()) {
             file["notListed"][IdOf(code)] = count;
         }
-        if (report.balance != nullptr) file["balance"] = tool::ToJson(*report.balance);
+        if (report.showsBalance) {
+            file["balance"] = tool::ToJson(report.checked.imported.balance);
+        }
+        if (report.showsSums && report.checked.sums) file["sums"] = SumsToJson(report.checked);
         document_["files"].push_back(std::move(file));
     }
 

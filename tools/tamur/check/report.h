@@ -13,8 +13,11 @@ namespace tamur::tool {
 struct FileReport {
     std::string file;  // as the user wrote it; UTF-8
     const host::Findings& findings;
-    bool wasImported = true;
-    const host::Balance* balance = nullptr;  // null: not asked for
+    const host::Checked& checked;
+    bool showsBalance = false;
+    bool showsSums = false;
+
+    [[nodiscard]] bool WasImported() const { return !checked.imported.refusal; }
 };
 
 class Report {

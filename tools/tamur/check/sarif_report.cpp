@@ -49,7 +49,7 @@ class SarifReport final : public Report {
             results_.push_back(ResultOf(finding, uri));
         }
         artifacts_.push_back({{"location", {{"uri", uri}}}});
-        wasImported_ = wasImported_ && report.wasImported;
+        wasImported_ = wasImported_ && report.WasImported();
     }
 
     void Finish() override

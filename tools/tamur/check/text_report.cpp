@@ -1,5 +1,6 @@
 // FILE:LINE:COLUMN: severity: text [TMR123], as compilers have it, so that editors can go there.
 #include "report.h"
+#include "sums_text.h"
 #include "balance_text.h"
 #include "host/findings/plain_text.h"
 
@@ -31,7 +32,12 @@ class TextReport final : public Report {
         const std::string file = host::PlainText(report.file, report.file.size());
         for (const Finding& finding : report.findings.InFileOrder()) Write(file, finding);
         for (const auto& [code, count] : report.findings.NotHeld()) WriteRest(file, code, count);
-        if (report.balance != nullptr) WriteBalance(*report.balance, style_.language, out_);
+        if (report.showsBalance) {
+            WriteBalance(report.checked.imported.balance, style_.language, out_);
+        }
+        if (report.showsSums && report.checked.sums) {
+            WriteSums(*report.checked.sums, report.checked.sections, style_.language, out_);
+        }
         WriteSummary(file, report);
     }
 
@@ -79,7 +85,7 @@ class TextReport final : public Report {
             separator = ", ";
         }
         if (separator == " ") out_ << (IsFrench() ? " rien à signaler" : " nothing found");
-        if (!report.wasImported) out_ << (IsFrench() ? " ; non importé" : "; not imported");
+        if (!report.WasImported()) out_ << (IsFrench() ? " ; non importé" : "; not imported");
         out_ << '\n';
     }
 
