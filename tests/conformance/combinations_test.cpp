@@ -42,13 +42,13 @@ std::vector<Combination> CombinationsOf(ITAMURStructureReader& reader)
 }
 
 // Static cases 1 to 3 and combinations 10 to 13.
-const std::vector<std::string> kCases = {"1 G 1 G 0",    "2 Q 1 Q 0",    "3 V 1 V 0",
-                                         "10 C10 2 E 0", "11 C11 2 E 0", "12 C12 2 E 0",
-                                         "13 C13 2 E 0"};
+const std::vector<std::string> kCombinedCases = {"1 G 1 G 0",    "2 Q 1 Q 0",    "3 V 1 V 0",
+                                                 "10 C10 2 E 0", "11 C11 2 E 0", "12 C12 2 E 0",
+                                                 "13 C13 2 E 0"};
 
 ComPtr<ITAMURStructureReader> WithCombinations(const std::vector<std::string>& lines)
 {
-    return Imported(LoadModel(kCases, lines));
+    return Imported(LoadModel(kCombinedCases, lines));
 }
 
 std::vector<Combination> CombinationsOf(const std::vector<std::string>& lines)
@@ -214,7 +214,7 @@ TEST(Combinations, StoredOneStaysWhenALaterLineOfItsNumberIsAbandoned)
 TEST(Combinations, RefusedLoadsOfACaseDoNotTouchThem)
 {
     const auto reader =
-        Imported(LoadModel(kCases, {"10 2 1 1 32767 0"})
+        Imported(LoadModel(kCombinedCases, {"10 2 1 1 32767 0"})
                      .Elements({"8 1 0 0 0 0 0 0 1 0 0 -1 0 0", "8 2 0 0 0 0 0 0 1 0 0 -2 0 0"}));
     EXPECT_THAT(CombinationsOf(*reader), ElementsAre(Combination{10, {{1, 1}}}));
     EXPECT_EQ(SkippedOf(*reader), 0);
@@ -225,7 +225,7 @@ TEST(Combinations, SkippedOnesAreCountedPerImport)
 {
     const auto reader = WithCombinations({"10 2 99 1 32767 0", "11 2 99 1 32767 0"});
     EXPECT_EQ(SkippedOf(*reader), 2);
-    ASSERT_EQ(ImportText(*reader, LoadModel(kCases, {"10 2 99 1 32767 0"})), S_OK);
+    ASSERT_EQ(ImportText(*reader, LoadModel(kCombinedCases, {"10 2 99 1 32767 0"})), S_OK);
     EXPECT_EQ(SkippedOf(*reader), 1);
     ASSERT_EQ(ImportText(*reader, ModelText()), S_OK);
     EXPECT_EQ(SkippedOf(*reader), 0);
@@ -234,8 +234,9 @@ TEST(Combinations, SkippedOnesAreCountedPerImport)
 TEST(Combinations, SecondImportReplacesByNumberAndKeepsTheRest)
 {
     const auto reader = WithCombinations({"10 2 1 1 32767 0", "11 2 1 2 32767 0"});
-    ASSERT_EQ(ImportText(*reader, LoadModel(kCases, {"12 2 1 3 32767 0", "10 2 1 4 32767 0"})),
-              S_OK);
+    ASSERT_EQ(
+        ImportText(*reader, LoadModel(kCombinedCases, {"12 2 1 3 32767 0", "10 2 1 4 32767 0"})),
+        S_OK);
     EXPECT_THAT(CombinationsOf(*reader),
                 ElementsAre(Combination{10, {{1, 4}}}, Combination{11, {{1, 2}}},
                             Combination{12, {{1, 3}}}));

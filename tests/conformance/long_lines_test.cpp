@@ -20,28 +20,28 @@ std::string Padded(std::string text, std::size_t length)
 // A material whose line fills a read to the last character.
 const std::string kFullLine = Padded("A 1", kLongestLine);
 
-ComPtr<ITAMURStructureReader> ImportedMaterials(const std::string& lines)
+ComPtr<ITAMURStructureReader> ImportedText(const std::string& lines)
 {
     return Imported(ModelText().Raw("#Materiaux\n").Raw(lines));
 }
 
 TEST(LongLines, RemainderIsALineOfItsOwn)
 {
-    const auto reader = ImportedMaterials(Padded(kFullLine + "B 2", 60000) + "\nC 3\n");
+    const auto reader = ImportedText(Padded(kFullLine + "B 2", 60000) + "\nC 3\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A", "B", "C"}));
     EXPECT_EQ(Materials(*reader).At(1)->E, 2.0);
 }
 
 TEST(LongLines, AreCutAsOftenAsNeeded)
 {
-    const auto reader = ImportedMaterials(kFullLine + Padded("B 2", kLongestLine) +
-                                          Padded("C 3", kLongestLine) + "D 4\nE 5\n");
+    const auto reader = ImportedText(kFullLine + Padded("B 2", kLongestLine) +
+                                     Padded("C 3", kLongestLine) + "D 4\nE 5\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A", "B", "C", "D", "E"}));
 }
 
 TEST(LongLines, NumberAcrossTheCutFallsInTwo)
 {
-    const auto reader = ImportedMaterials(Padded("A", kLongestLine - 2) + "1234 5\n");
+    const auto reader = ImportedText(Padded("A", kLongestLine - 2) + "1234 5\n");
     ASSERT_EQ(MaterialNames(*reader), (Names{"A", "34"}));
     EXPECT_EQ(Materials(*reader).At(0)->E, 12.0);
     EXPECT_EQ(Materials(*reader).At(1)->E, 5.0);
@@ -52,7 +52,7 @@ TEST(LongLines, LimitLiesBetween49999And50000Characters)
 {
     for (const std::string end : {"\n", "\r\n", ""}) {
         const auto names = [&](std::size_t length) {
-            return MaterialNames(*ImportedMaterials(Padded("A 1", length) + end));
+            return MaterialNames(*ImportedText(Padded("A 1", length) + end));
         };
         EXPECT_EQ(names(49998), (Names{"A"}));
         EXPECT_EQ(names(49999), (Names{"A"}));
@@ -62,13 +62,13 @@ TEST(LongLines, LimitLiesBetween49999And50000Characters)
 
 TEST(LongLines, CharactersAfterANulCount)
 {
-    const auto reader = ImportedMaterials(Padded("A 1\0"s, kLongestLine) + "B 2\n");
+    const auto reader = ImportedText(Padded("A 1\0"s, kLongestLine) + "B 2\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A", "B"}));
 }
 
 TEST(LongLines, RemainderMayBeAHeader)
 {
-    const auto reader = ImportedMaterials(kFullLine + "#Attaches\nR1 7\n#Attaches\nR2 7\n");
+    const auto reader = ImportedText(kFullLine + "#Attaches\nR1 7\n#Attaches\nR2 7\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A"}));
     EXPECT_EQ(ReleaseNames(*reader), (Names{"R1"})) << "and is the first of its name";
 }
@@ -82,12 +82,12 @@ TEST(LongLines, RemainderOfALineThatNobodyReadsMayBeAHeader)
 
 TEST(LongLines, RemainderThatStartsWithANumberSignEndsTheSection)
 {
-    EXPECT_EQ(MaterialNames(*ImportedMaterials(kFullLine + "# note\nB 2\n")), (Names{"A"}));
+    EXPECT_EQ(MaterialNames(*ImportedText(kFullLine + "# note\nB 2\n")), (Names{"A"}));
 }
 
 TEST(LongLines, NumberSignBeforeTheCutEndsNothing)
 {
-    const auto reader = ImportedMaterials(Padded("A 1", kLongestLine - 1) + "#Attaches\nB 2\n");
+    const auto reader = ImportedText(Padded("A 1", kLongestLine - 1) + "#Attaches\nB 2\n");
     EXPECT_EQ(MaterialNames(*reader), (Names{"A", "Attaches", "B"}));
     EXPECT_EQ(Attaches(*reader).Size(), 0);
 }

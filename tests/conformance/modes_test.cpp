@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-const std::vector<std::string> kCases = {"5 Modal 3 M 0"};
+const std::vector<std::string> kModalCase = {"5 Modal 3 M 0"};
 
 // The columns from the mass choice to the second skipped word.
 constexpr char kMiddle[] = " 2 1 1.0 2 0.2 3 0.3 4 0.4 5 0.5 6 0.6 7 0.7 8 0.8 1 mot 41 O mot ";
@@ -25,7 +25,7 @@ std::string ModalLine(int modes, const std::string& dampings = "",
 
 ComPtr<ITAMURStructureReader> WithLines(const std::vector<std::string>& lines)
 {
-    return Imported(LoadModel(kCases, lines));
+    return Imported(LoadModel(kModalCase, lines));
 }
 
 Record<TMRModes> ModesOf(const std::vector<std::string>& lines)
@@ -255,7 +255,7 @@ TEST(Modes, LineWithoutModesLeavesRoomForTheNext)
 TEST(Modes, SecondImportEndsWithoutModes)
 {
     const auto reader = WithLines({ModalLine(2, "0.05 0.06")});
-    ASSERT_EQ(ImportText(*reader, LoadModel(kCases, {ModalLine(3, "1 2 3", "1 2 3")})), S_OK);
+    ASSERT_EQ(ImportText(*reader, LoadModel(kModalCase, {ModalLine(3, "1 2 3", "1 2 3")})), S_OK);
     const auto modes = test::ModesOf(*reader);
     EXPECT_THAT(DampingsOf(modes), IsEmpty());
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(1, 2, 3));

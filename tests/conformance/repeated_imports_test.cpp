@@ -11,14 +11,14 @@ namespace tamur::test {
 namespace {
 
 constexpr int kImports = 40;
-constexpr int kCases = 60;
+constexpr int kManyCases = 60;
 
 // Combinations of case 0 with the factor of their import, some of them with numbers that earlier
 // imports had, in an order that changes.
 ModelText Combinations(int import, std::map<LONG, double>& expected)
 {
     std::vector<std::string> cases = {"0 G 1 G 0"}, parameters;
-    for (int i = 0; i < kCases; ++i) {
+    for (int i = 0; i < kManyCases; ++i) {
         const int number = 1 + (import * 31 + i * (import % 2 == 0 ? 7 : -7) + 1000) % 500;
         cases.push_back(std::to_string(number) + " C 2 E 0");
         parameters.push_back(std::to_string(number) + " 2 0 " + std::to_string(import) +

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <regex>
 #include <set>
@@ -83,6 +84,8 @@ TEST(Check, CountsOnlyTheCodesAskedFor)
     EXPECT_EQ(CheckText(Cantilever(1), {"--ignore", "TMR201"}).exitCode, 0);
     EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR4,TMR5"}).exitCode, 0);
     EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR2"}).exitCode, 1);
+    EXPECT_EQ(CheckText(Cantilever(1), {"--select", "201"}).exitCode, 1);
+    EXPECT_EQ(CheckText(Cantilever(1), {"--select", "tmr4"}).exitCode, 0);
     EXPECT_EQ(CheckText(Cantilever(1), {"--select", "TMR999"}).exitCode, 2);
 }
 
@@ -152,6 +155,30 @@ TEST(Check, SaysWhatTheDocumentsSay)
     EXPECT_EQ(quoted, 8);
 }
 
+TEST(Check, SaysWhyAFileIsRefusedWhateverWasSelected)
+{
+    const ToolRun run = CheckText(ModelText("9.9"), {"--select", "TMR5"});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.errors, HasSubstr("version 9.9"));
+}
+
+TEST(Check, TroubleWithOneFileLosesNothingOfTheOthers)
+{
+    const TemporaryFile file(Cantilever(1).Text());
+    const ToolRun run =
+        RunTool({"check", "--format", "json", file.Path().string(), "-"}, "TMPDIR=/no/such/folder");
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.errors, HasSubstr("temporary"));
+    EXPECT_EQ(json::parse(run.output).at("files").size(), 1);
+}
+
+TEST(Check, WrongWordsAreAnsweredWithTheRightOnes)
+{
+    const ToolRun run = RunTool({"check", "--format", "xml", Sample("hall")});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.errors, HasSubstr("--format: xml is none of: text, json, sarif"));
+}
+
 TEST(Check, SpeaksFrench)
 {
     const TemporaryFile file(Cantilever(2).Text());
@@ -202,6 +229,29 @@ TEST(Check, JsonAccountsForEveryLineWhenAsked)
     EXPECT_EQ(balance.at("kinds").at("bar"), (json{{"lines", 1}, {"records", 1}}));
     EXPECT_EQ(balance.at("kinds").at("other"),
               (json{{"lines", 2}, {"records", 0}, {"dropped", {{"TMR201", 2}}}}));
+}
+
+// Whatever is found, and wherever it is or is not.
+TEST(Check, EveryFindingIsWrittenInEveryFormat)
+{
+    std::vector<std::string> files = {"--all", "/no/such/file"};
+    for (const auto& entry : std::filesystem::directory_iterator(TAMUR_FIXTURES)) {
+        files.push_back(entry.path().string());
+    }
+    const auto checkAll = [&files](const char* format) {
+        std::vector<std::string> arguments = {"check", "--format", format};
+        arguments.insert(arguments.end(), files.begin(), files.end());
+        const ToolRun run = RunTool(arguments);
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_EQ(run.errors, "");
+        return json::parse(run.output);
+    };
+    std::size_t findings = 0;
+    const json document = checkAll("json");
+    EXPECT_EQ(document.at("files").size(), files.size() - 1);
+    for (const json& file : document.at("files")) findings += file.at("findings").size();
+    EXPECT_GE(findings, files.size() - 1);
+    EXPECT_EQ(checkAll("sarif").at("runs").at(0).at("results").size(), findings);
 }
 
 TEST(Check, SarifNamesRuleLevelAndRegion)

@@ -29,12 +29,12 @@ bool IsPipe(const fs::path& path)
 }
 
 // No name that somebody could have taken before.
-fs::path NewPath()
+std::string NewName()
 {
     std::random_device random;
     std::string name = "tamur-";
     for (int i = 0; i < 4; ++i) name += std::to_string(random());
-    return fs::temp_directory_path() / (name + ".txt");
+    return name + ".txt";
 }
 
 void Copy(std::istream& in, std::ostream& out)
@@ -44,7 +44,7 @@ void Copy(std::istream& in, std::ostream& out)
         in.read(block.data(), block.size());
         out.write(block.data(), in.gcount());
     }
-    if (in.bad()) throw std::runtime_error("cannot be read");
+    if (in.bad()) throw std::runtime_error("the input cannot be read");
     if (!out.flush()) throw std::runtime_error("the temporary folder cannot be written");
 }
 
@@ -57,13 +57,17 @@ Input::Input(const std::string& name, std::istream& standardInput)
         Spool(standardInput);
     } else if (IsPipe(PathOf(name))) {
         std::ifstream pipe(PathOf(name), std::ios::binary);
+        if (!pipe) throw std::runtime_error(name + ": the pipe cannot be opened");
         Spool(pipe);
     }
 }
 
 void Input::Spool(std::istream& in)
 {
-    spooled_ = NewPath();
+    std::error_code noFolder;
+    const fs::path folder = fs::temp_directory_path(noFolder);
+    if (noFolder) throw std::runtime_error("there is no folder for temporary files");
+    spooled_ = folder / NewName();
     path_ = Utf8Of(spooled_);
     try {
         std::ofstream out(spooled_, std::ios::binary);

@@ -3,13 +3,15 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdlib>
-#include <map>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 #include "../exit_code.h"
+#include "../import.h"
 #include "../input.h"
 #include "host/check.h"
+#include "host/findings/plain_text.h"
 #include "progress.h"
 #include "report.h"
 
@@ -18,13 +20,12 @@ namespace {
 
 // Enough of one kind to see the pattern.
 constexpr std::size_t kShownOfEach = 5;
-
-enum class Colour { kAuto, kAlways, kNever };
+constexpr std::size_t kLongestError = 1000;
 
 struct Options {
     std::vector<std::string> files;
-    Format format = Format::kText;
-    Colour colour = Colour::kAuto;
+    std::string format = "text";
+    std::string colour = "auto";
     std::string language;
     host::CodeFilter filter;
     bool showsAll = false;
@@ -34,9 +35,14 @@ struct Options {
     bool showsSums = false;
 };
 
-bool HasColours(Colour colour, bool isTerminal)
+Format FormatOf(const std::string& name)
 {
-    if (colour != Colour::kAuto) return colour == Colour::kAlways;
+    return name == "json" ? Format::kJson : name == "sarif" ? Format::kSarif : Format::kText;
+}
+
+bool HasColours(const std::string& colour, bool isTerminal)
+{
+    if (colour != "auto") return colour == "always";
     const char* const unwanted = std::getenv("NO_COLOR");
     return isTerminal && (unwanted == nullptr || *unwanted == '\0');
 }
@@ -57,38 +63,70 @@ int ExitCodeOf(const Options& options, const host::Findings& findings, bool wasI
     return counted != 0 && !options.exitsZero ? exit_code::kFound : exit_code::kFine;
 }
 
-int CheckOne(const Options& options, const std::string& file, const Console& console,
-             Report& report)
+int CheckOne(const Options& options, const Input& input, const Console& console, Report& report)
 {
-    const Input input(file, console.in);
     host::Findings findings(options.showsAll ? host::Findings::kAll : kShownOfEach, options.filter);
     const host::Checked checked = [&] {
         const Progress progress(console.errors, console.isErrorsTerminal,
                                 "tamur: checking " + input.Name());
         return host::CheckFile(input.Path(), findings);
     }();
+    // Why nothing was checked is said whatever was asked for.
+    const auto& refusal = checked.imported.refusal;
+    if (refusal && findings.CountOf(refusal->code) == 0) throw ImportRefused(input, *refusal);
     report.Add({.file = input.Name(),
                 .findings = findings,
                 .checked = checked,
                 .showsBalance = options.showsBalance,
                 .showsSums = options.showsSums});
-    return ExitCodeOf(options, findings, !checked.imported.refusal);
+    return ExitCodeOf(options, findings, !refusal);
+}
+
+// Trouble with one file is no reason to lose what is said of the others.
+int TryToCheck(const Options& options, const std::string& file, const Console& console,
+               Report& report)
+{
+    try {
+        return CheckOne(options, Input(file, console.in), console, report);
+    } catch (const std::ios_base::failure&) {
+        throw;  // the output
+    } catch (const std::exception& error) {
+        console.errors << "tamur: " << host::PlainText(error.what(), kLongestError) << '\n';
+        return exit_code::kTrouble;
+    }
 }
 
 int CheckAll(const Options& options, const Console& console)
 {
-    const auto report = MakeReport(options.format, StyleOf(options, console), console.out);
+    const auto report =
+        MakeReport(FormatOf(options.format), StyleOf(options, console), console.out);
     int worst = exit_code::kFine;
     for (const std::string& file : options.files) {
-        worst = std::max(worst, CheckOne(options, file, console, *report));
+        worst = std::max(worst, TryToCheck(options, file, console, *report));
     }
     report->Finish();
     return worst;
 }
 
-// A code, or the beginning of one, that names at least one.
-std::string NamesCodes(const std::string& id)
+// One of those words; what is allowed is said when it is none.
+CLI::Validator OneOf(std::vector<std::string> words)
 {
+    const auto check = [words = std::move(words)](std::string& word) {
+        if (std::find(words.begin(), words.end(), word) != words.end()) return std::string();
+        std::string known;
+        for (const std::string& each : words) known += (known.empty() ? "" : ", ") + each;
+        return word + " is none of: " + known;
+    };
+    return CLI::Validator(check, "");
+}
+
+// A code, or the beginning of one, that names at least one; "TMR" and capitals may be left out.
+std::string NamesCodes(std::string& id)
+{
+    if (!id.empty() && id[0] >= '0' && id[0] <= '9') id.insert(0, "TMR");
+    std::transform(id.begin(), id.end(), id.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    });
     for (const host::CodeInfo& info : host::AllCodes()) {
         if (IdOf(info.code).starts_with(id)) return std::string();
     }
@@ -99,11 +137,6 @@ std::string NamesCodes(const std::string& id)
 
 void AddCheckCommand(CLI::App& app, Task& task)
 {
-    const std::map<std::string, Format> formats = {
-        {"text", Format::kText}, {"json", Format::kJson}, {"sarif", Format::kSarif}};
-    const std::map<std::string, Colour> colours = {
-        {"auto", Colour::kAuto}, {"always", Colour::kAlways}, {"never", Colour::kNever}};
-
     const auto options = std::make_shared<Options>();
     CLI::App* const command =
         app.add_subcommand("check", "what is wrong with a file and the model in it, line by line");
@@ -114,26 +147,26 @@ void AddCheckCommand(CLI::App& app, Task& task)
         ->required()
         ->type_name("");
     command->add_option("--format", options->format, "text (default), json or sarif")
-        ->transform(CLI::CheckedTransformer(formats).description(""))
+        ->check(OneOf({"text", "json", "sarif"}))
         ->type_name("FORMAT");
     command
         ->add_option("--select", options->filter.select,
                      "only these codes: TMR101, or TMR1 for all that begin so")
         ->delimiter(',')
-        ->check(NamesCodes)
+        ->transform(CLI::Validator(NamesCodes, ""))
         ->allow_extra_args(false)
         ->type_name("CODES");
     command->add_option("--ignore", options->filter.ignore, "all but these codes")
         ->delimiter(',')
-        ->check(NamesCodes)
+        ->transform(CLI::Validator(NamesCodes, ""))
         ->allow_extra_args(false)
         ->type_name("CODES");
     command->add_option("--lang", options->language, "en or fr (default: the user's locale)")
-        ->check(CLI::IsMember({"en", "fr"}).description(""))
+        ->check(OneOf({"en", "fr"}))
         ->type_name("LANGUAGE");
     command
         ->add_option("--color", options->colour, "auto (default: on a terminal), always or never")
-        ->transform(CLI::CheckedTransformer(colours).description(""))
+        ->check(OneOf({"auto", "always", "never"}))
         ->type_name("WHEN");
     command->add_flag("--all", options->showsAll, "every finding, not the first of each code");
     command->add_flag("--balance", options->showsBalance, "what became of every line");

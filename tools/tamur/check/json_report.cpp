@@ -14,7 +14,7 @@ using Json = nlohmann::ordered_json;
 
 Json PlaceOf(const Finding& finding)
 {
-    Json place;
+    Json place = Json::object();
     if (finding.place.line != 0) place["line"] = finding.place.line;
     if (finding.place.column != 0) place["column"] = finding.place.column;
     if (finding.place.length != 0) place["length"] = finding.place.length;

@@ -84,8 +84,12 @@ class TextReport final : public Report {
                  << (count > 1 ? "s" : "");
             separator = ", ";
         }
-        if (separator == " ") out_ << (IsFrench() ? " rien à signaler" : " nothing found");
-        if (!report.WasImported()) out_ << (IsFrench() ? " ; non importé" : "; not imported");
+        if (!report.WasImported()) {
+            if (separator != " ") out_ << (IsFrench() ? " ;" : ";");
+            out_ << (IsFrench() ? " non importé" : " not imported");
+        } else if (separator == " ") {
+            out_ << (IsFrench() ? " rien à signaler" : " nothing found");
+        }
         out_ << '\n';
     }
 
