@@ -432,11 +432,17 @@ Structure ReadModel(ITAMURStructureReader& reader)
 std::vector<Point> OutlineOf(const Structure& structure, const Element& element)
 {
     std::vector<Point> outline;
+    GetOutline(structure, element, outline);
+    return outline;
+}
+
+void GetOutline(const Structure& structure, const Element& element, std::vector<Point>& outline)
+{
+    outline.clear();
     outline.reserve(element.cornerCount);
     for (const Index corner : structure.CornersOf(element)) {
         outline.push_back(structure.points[corner]);
     }
-    return outline;
 }
 
 }  // namespace tamur::host
