@@ -75,21 +75,6 @@ void Merge(Box& box, const Box& other)
 
 }  // namespace
 
-void Box::Add(Point point)
-{
-    low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
-    high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
-}
-
-Box Box::Grown(double by) const
-{
-    const Point step = {by, by, by};
-    Box box;
-    box.low = low - step;
-    box.high = high + step;
-    return box;
-}
-
 Box BoxOf(const Segment& segment)
 {
     Box box;

@@ -1,6 +1,7 @@
 // Boxes in space, found by where they are.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <vector>
@@ -31,8 +32,19 @@ struct Box {
     Point low = {kFar, kFar, kFar};
     Point high = {-kFar, -kFar, -kFar};
 
-    void Add(Point point);
-    [[nodiscard]] Box Grown(double by) const;
+    void Add(Point point)
+    {
+        low = {std::min(low.x, point.x), std::min(low.y, point.y), std::min(low.z, point.z)};
+        high = {std::max(high.x, point.x), std::max(high.y, point.y), std::max(high.z, point.z)};
+    }
+    [[nodiscard]] Box Grown(double by) const
+    {
+        const Point step = {by, by, by};
+        Box box;
+        box.low = low - step;
+        box.high = high + step;
+        return box;
+    }
     [[nodiscard]] bool Meets(const Box& other) const
     {
         // All six at once: which of them says no cannot be foreseen.

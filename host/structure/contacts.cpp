@@ -62,18 +62,18 @@ class PointSearch {
     template <class Use>
     void InPolygon(const Element& element, const Use& use)
     {
-        const std::vector<Point> outline = OutlineOf(structure_, element);
-        const Polygon polygon(outline);
+        GetOutline(structure_, element, outline_);
+        const Polygon polygon(outline_);
         const double tolerance = structure_.tolerance;
         Box around;
-        for (const Point& corner : outline) around.Add(corner);
+        for (const Point& corner : outline_) around.Add(corner);
         around = around.Grown(tolerance);
         const auto meets = [&](const Box& box) {
             return box.Meets(around) && Meets(box.Grown(tolerance), polygon.ThePlane());
         };
         Visit(around, meets, [&](Index point, const Point& at) {
             if (std::abs(polygon.ThePlane().DistanceTo(at)) > tolerance) return;
-            if (!budget_.Spend(outline.size()) || !polygon.Contains(at, tolerance)) return;
+            if (!budget_.Spend(outline_.size()) || !polygon.Contains(at, tolerance)) return;
             if (IsLeft()) use(point);
         });
     }
@@ -112,6 +112,7 @@ class PointSearch {
     std::optional<BoxTree> tree_;
     Budget budget_;
     std::size_t contactsLeft_;
+    std::vector<Point> outline_;  // of the polygon that is looked at
 };
 
 struct Contact {

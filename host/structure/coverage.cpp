@@ -11,6 +11,7 @@ namespace {
 std::vector<Box> BoxesOfBars(const Structure& structure)
 {
     std::vector<Box> boxes;
+    boxes.reserve(structure.bars.size());
     for (const Bar& bar : structure.bars) {
         boxes.push_back(bar.isUsable ? BoxOf(structure.SegmentOf(bar)) : Box());
     }
@@ -20,6 +21,7 @@ std::vector<Box> BoxesOfBars(const Structure& structure)
 std::vector<Box> BoxesOfSurfaces(const Structure& structure)
 {
     std::vector<Box> boxes;
+    boxes.reserve(structure.surfaces.size() + structure.walls.size());
     for (const auto* list : {&structure.surfaces, &structure.walls}) {
         for (const Surface& surface : *list) {
             boxes.emplace_back();

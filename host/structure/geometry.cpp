@@ -12,13 +12,6 @@ double CrossOf(PlanePoint a, PlanePoint b, PlanePoint c)
 
 }  // namespace
 
-double FootOn(const Segment& segment, Point point)
-{
-    const Point along = segment.end - segment.start;
-    const double square = Dot(along, along);
-    return square > 0 ? std::clamp(Dot(point - segment.start, along) / square, 0.0, 1.0) : 0;
-}
-
 Approach ApproachOf(const Segment& first, const Segment& second)
 {
     const Point along1 = first.end - first.start, along2 = second.end - second.start;

@@ -1,6 +1,7 @@
 // Points, segments and plane polygons.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -41,7 +42,12 @@ struct Segment {
 };
 
 // Where on the segment, from 0 to 1, the foot of the point is.
-[[nodiscard]] double FootOn(const Segment& segment, Point point);
+[[nodiscard]] inline double FootOn(const Segment& segment, Point point)
+{
+    const Point along = segment.end - segment.start;
+    const double square = Dot(along, along);
+    return square > 0 ? std::clamp(Dot(point - segment.start, along) / square, 0.0, 1.0) : 0;
+}
 
 [[nodiscard]] inline double Distance(const Segment& segment, Point point)
 {

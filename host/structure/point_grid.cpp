@@ -10,9 +10,12 @@ namespace {
 // So that what is drawn on round coordinates is not on the sides of cells.
 constexpr double kShift = 0.37;
 
+// As std::floor, which is a call where the processor may be an old one.
 std::int64_t CellOf(double coordinate, double factor)
 {
-    return static_cast<std::int64_t>(std::floor(coordinate * factor + kShift));
+    const double place = coordinate * factor + kShift;
+    const auto cell = static_cast<std::int64_t>(place);
+    return cell - (place < static_cast<double>(cell) ? 1 : 0);
 }
 
 }  // namespace
@@ -35,12 +38,12 @@ PointGrid::PointGrid(const std::vector<Point>& points, double cell)
     starts_.pop_back();
 }
 
+// Neighbours along x are in neighbouring slots, and in the same lines of the cache.
 std::uint32_t PointGrid::SlotOf(std::int64_t x, std::int64_t y, std::int64_t z) const
 {
-    std::uint64_t hash = static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15;
-    hash = (hash ^ static_cast<std::uint64_t>(y)) * 0xBF58476D1CE4E5B9;
+    std::uint64_t hash = static_cast<std::uint64_t>(y) * 0xBF58476D1CE4E5B9;
     hash = ((hash ^ (hash >> 29)) + static_cast<std::uint64_t>(z)) * 0x94D049BB133111EB;
-    return static_cast<std::uint32_t>(hash >> 32) & mask_;
+    return static_cast<std::uint32_t>((hash >> 32) + static_cast<std::uint64_t>(x)) & mask_;
 }
 
 std::uint32_t PointGrid::SlotOf(Point point) const

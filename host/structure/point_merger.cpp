@@ -1,16 +1,22 @@
 #include "host/structure/point_merger.h"
 
-#include <bit>
+#include <algorithm>
+#include <array>
 
 namespace tamur::host {
 namespace {
 
 constexpr std::uint32_t kNone = ~std::uint32_t{0};
 constexpr double kCell = 8;  // in tolerances: few points are so near a cell's side that two count
+// So that what is drawn on round coordinates is not on the sides of cells.
+constexpr double kShift = 0.37;
+constexpr std::size_t kFirstSlots = 1024;
 
+// As std::floor, which is a call where the processor may be an old one.
 std::int64_t CellOf(double place)
 {
-    return static_cast<std::int64_t>(std::floor(place));
+    const auto cell = static_cast<std::int64_t>(place);
+    return cell - (place < static_cast<double>(cell) ? 1 : 0);
 }
 
 // Which cells hold what is within a tolerance, along one axis.
@@ -19,68 +25,119 @@ struct Reach {
 };
 Reach ReachOf(double place)
 {
-    const double cell = std::floor(place);
-    const double rest = (place - cell) * kCell;
     const std::int64_t own = CellOf(place);
+    const double rest = (place - static_cast<double>(own)) * kCell;
     return {rest <= 1 ? own - 1 : own, rest >= kCell - 1 ? own + 1 : own};
+}
+
+std::uint32_t HashOf(std::int64_t x, std::int64_t y, std::int64_t z)
+{
+    std::uint64_t hash = static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15;
+    hash = (hash ^ static_cast<std::uint64_t>(y)) * 0xBF58476D1CE4E5B9;
+    hash = ((hash ^ (hash >> 29)) + static_cast<std::uint64_t>(z)) * 0x94D049BB133111EB;
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }
 
 }  // namespace
 
 PointMerger::PointMerger(double tolerance, Point origin, std::size_t count)
-    : tolerance_(tolerance), origin_(origin), slots_(std::bit_ceil(count / 2 + 1), kNone)
+    : tolerance_(tolerance),
+      factor_(1 / (kCell * tolerance)),
+      origin_(origin),
+      slots_(kFirstSlots, kNone),
+      mask_(kFirstSlots - 1)
 {
+    // Most corners are at a point that another has.
+    known_.reserve(count / 4);
 }
 
-std::size_t PointMerger::SlotOf(Cell cell) const
+Point PointMerger::PlaceOf(Point point) const
 {
-    std::uint64_t hash = static_cast<std::uint64_t>(cell.x) * 0x9E3779B97F4A7C15;
-    hash = (hash ^ static_cast<std::uint64_t>(cell.y)) * 0xBF58476D1CE4E5B9;
-    hash = ((hash ^ (hash >> 29)) + static_cast<std::uint64_t>(cell.z)) * 0x94D049BB133111EB;
-    return static_cast<std::size_t>(hash ^ (hash >> 32)) & (slots_.size() - 1);
+    return (point - origin_) * factor_ + Point{kShift, kShift, kShift};
 }
 
-void PointMerger::SearchCell(Cell cell, Point point, std::uint32_t& nearest, double& square) const
+void PointMerger::SearchSlot(std::uint32_t hash, Point point, std::uint32_t& nearest,
+                             double& square)
 {
-    for (std::uint32_t i = slots_[SlotOf(cell)]; i != kNone; i = next_[i]) {
-        const Point between = points_[i] - point;
+    for (std::uint32_t i = SlotOf(hash); i != kNone; i = known_[i].next) {
+        const Point between = known_[i].point - point;
         const double other = Dot(between, between);
-        if (other > square || (other == square && nearest != kNone)) continue;
+        if (other > square || (other == square && i > nearest)) continue;
         square = other;
         nearest = i;
         if (square == 0) return;  // nothing is nearer: the usual case
     }
 }
 
-void PointMerger::Fetch(Point point) const
+std::uint32_t PointMerger::NumberOf(Point point, std::uint32_t hash)
 {
-    const Point place = (point - origin_) * (1 / (kCell * tolerance_));
-    __builtin_prefetch(&slots_[SlotOf({CellOf(place.x), CellOf(place.y), CellOf(place.z)})]);
-}
-
-std::uint32_t PointMerger::NumberOf(Point point)
-{
-    const Point place = (point - origin_) * (1 / (kCell * tolerance_));
-    const Cell own = {CellOf(place.x), CellOf(place.y), CellOf(place.z)};
     std::uint32_t nearest = kNone;
     double square = tolerance_ * tolerance_;
-    SearchCell(own, point, nearest, square);
-    if (square == 0) return nearest;
+    SearchSlot(hash, point, nearest, square);
+    if (square == 0 && nearest != kNone) return nearest;
+    const Point place = PlaceOf(point);
     const Reach x = ReachOf(place.x), y = ReachOf(place.y), z = ReachOf(place.z);
     for (std::int64_t i = x.first; i <= x.last; ++i) {
         for (std::int64_t k = y.first; k <= y.last; ++k) {
             for (std::int64_t m = z.first; m <= z.last; ++m) {
-                SearchCell({i, k, m}, point, nearest, square);
+                if (const std::uint32_t other = HashOf(i, k, m); other != hash) {
+                    SearchSlot(other, point, nearest, square);
+                }
             }
         }
     }
     if (nearest != kNone) return nearest;
-    const auto number = static_cast<std::uint32_t>(points_.size());
-    std::uint32_t& slot = slots_[SlotOf(own)];
-    next_.push_back(slot);
-    points_.push_back(point);
+    if (known_.size() > mask_) Grow();
+    const auto number = static_cast<std::uint32_t>(known_.size());
+    std::uint32_t& slot = SlotOf(hash);
+    known_.push_back({point, hash, slot});
     slot = number;
     return number;
+}
+
+// Few slots stay in the caches; many make short lists.
+void PointMerger::Grow()
+{
+    slots_.assign(2 * slots_.size(), kNone);
+    mask_ = slots_.size() - 1;
+    for (std::uint32_t i = 0; i < known_.size(); ++i) {
+        std::uint32_t& slot = SlotOf(known_[i].hash);
+        known_[i].next = slot;
+        slot = i;
+    }
+}
+
+// In steps over all points of the block, so that what they wait for comes at the same time.
+void PointMerger::AddBlock(std::span<const Point> points, std::vector<std::uint32_t>& numbers)
+{
+    std::array<std::uint32_t, kBlock> hashes;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Point place = PlaceOf(points[i]);
+        hashes[i] = HashOf(CellOf(place.x), CellOf(place.y), CellOf(place.z));
+        __builtin_prefetch(&SlotOf(hashes[i]));
+    }
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const std::uint32_t first = SlotOf(hashes[i]);
+        if (first != kNone) __builtin_prefetch(&known_[first]);
+    }
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        numbers.push_back(NumberOf(points[i], hashes[i]));
+    }
+}
+
+void PointMerger::AddNumbersOf(std::span<const Point> points, std::vector<std::uint32_t>& numbers)
+{
+    for (; !points.empty(); points = points.subspan(std::min(points.size(), kBlock))) {
+        AddBlock(points.first(std::min(points.size(), kBlock)), numbers);
+    }
+}
+
+std::vector<Point> PointMerger::Points() const
+{
+    std::vector<Point> points;
+    points.reserve(known_.size());
+    for (const Known& known : known_) points.push_back(known.point);
+    return points;
 }
 
 }  // namespace tamur::host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "host/structure/geometry.h"
@@ -9,32 +10,43 @@
 namespace tamur::host {
 
 // Gives points numbers, the same to those within the tolerance of one that has a number already
-// (of several the nearest). Each takes constant time: a cell holds few points that are further
-// apart than the tolerance.
+// (of several the nearest, of equally near ones the first). Each takes constant time: a cell holds
+// few points that are further apart than the tolerance.
 class PointMerger {
  public:
-    // `origin` is near the points; `count` is how many there will be, about.
+    // `origin` is near the points; `count` is how many there will be at most.
     PointMerger(double tolerance, Point origin, std::size_t count);
 
-    [[nodiscard]] std::uint32_t NumberOf(Point point);
+    // Appends the number of each point.
+    void AddNumbersOf(std::span<const Point> points, std::vector<std::uint32_t>& numbers);
 
-    // Fetches what NumberOf will look at, some points before it.
-    void Fetch(Point point) const;
-
-    [[nodiscard]] std::vector<Point>& Points() { return points_; }
+    // Each number's point.
+    [[nodiscard]] std::vector<Point> Points() const;
 
  private:
     struct Cell {
         std::int64_t x, y, z;
     };
-    [[nodiscard]] std::size_t SlotOf(Cell cell) const;
-    void SearchCell(Cell cell, Point point, std::uint32_t& nearest, double& square) const;
+    // In half a line of the cache.
+    struct Known {
+        Point point;
+        std::uint32_t hash;
+        std::uint32_t next;  // the one before it in its slot
+    };
+    static constexpr std::size_t kBlock = 32;
 
-    double tolerance_;
+    [[nodiscard]] Point PlaceOf(Point point) const;
+    [[nodiscard]] std::uint32_t& SlotOf(std::uint32_t hash) { return slots_[hash & mask_]; }
+    [[nodiscard]] std::uint32_t NumberOf(Point point, std::uint32_t hash);
+    void AddBlock(std::span<const Point> points, std::vector<std::uint32_t>& numbers);
+    void SearchSlot(std::uint32_t hash, Point point, std::uint32_t& nearest, double& square);
+    void Grow();
+
+    double tolerance_, factor_;
     Point origin_;
     std::vector<std::uint32_t> slots_;  // the last point of the cells with that hash
-    std::vector<std::uint32_t> next_;   // and the one before it
-    std::vector<Point> points_;
+    std::size_t mask_;
+    std::vector<Known> known_;
 };
 
 }  // namespace tamur::host

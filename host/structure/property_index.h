@@ -5,7 +5,7 @@
 
 #include <bit>
 #include <cstdint>
-#include <unordered_map>
+#include <cstring>
 #include <vector>
 
 #include "host/structure/structure.h"
@@ -19,7 +19,7 @@ class Fingerprint {
     void Field(const char*, const Value& value)
     {
         if constexpr (std::is_same_v<Value, BSTR>) {
-            for (const OLECHAR c : ViewOf(value)) Mix(static_cast<std::uint64_t>(c));
+            MixText(ViewOf(value));
         } else if constexpr (std::is_same_v<Value, double>) {
             Mix(std::bit_cast<std::uint64_t>(value));
         } else if constexpr (std::is_class_v<Value>) {
@@ -37,6 +37,19 @@ class Fingerprint {
     [[nodiscard]] std::uint64_t Value() const { return value_; }
 
  private:
+    // Eight bytes at a time, then the rest.
+    void MixText(WideStringView text)
+    {
+        constexpr std::size_t kAtOnce = sizeof(std::uint64_t) / sizeof(OLECHAR);
+        Mix(text.size());
+        std::size_t i = 0;
+        for (; i + kAtOnce <= text.size(); i += kAtOnce) {
+            std::uint64_t characters = 0;
+            std::memcpy(&characters, &text[i], sizeof characters);
+            Mix(characters);
+        }
+        for (; i < text.size(); ++i) Mix(static_cast<std::uint64_t>(text[i]));
+    }
     void Mix(std::uint64_t more)
     {
         // Each with its place, apart from the others: the products do not wait for each other.
@@ -54,15 +67,20 @@ class PropertyIndex {
     template <class PublicRecord>
     void Add(PublicRecord& record)
     {
-        places_.try_emplace(FingerprintOf(record), static_cast<Index>(count_++));
+        const std::uint64_t fingerprint = FingerprintOf(record);
+        const auto place = static_cast<Index>(added_++);
+        if (2 * known_ >= slots_.size()) Grow();
+        Slot& slot = SlotIn(slots_, fingerprint);
+        if (slot.place != kNone) return;
+        slot = {fingerprint, place};
+        ++known_;
     }
 
     // kNone when no record of the table is like it.
     template <class PublicRecord>
     [[nodiscard]] Index Find(PublicRecord& record) const
     {
-        const auto found = places_.find(FingerprintOf(record));
-        return found != places_.end() ? found->second : kNone;
+        return SlotIn(slots_, FingerprintOf(record)).place;
     }
 
  private:
@@ -74,8 +92,34 @@ class PropertyIndex {
         return fingerprint.Value();
     }
 
-    std::unordered_map<std::uint64_t, Index> places_;
-    std::size_t count_ = 0;
+    struct Slot {
+        std::uint64_t fingerprint = 0;
+        Index place = kNone;
+    };
+
+    // Where it is, or where it would be.
+    template <class Slots>
+    static auto& SlotIn(Slots& slots, std::uint64_t fingerprint)
+    {
+        const std::size_t mask = slots.size() - 1;
+        std::size_t slot = (fingerprint ^ (fingerprint >> 32)) & mask;
+        while (slots[slot].place != kNone && slots[slot].fingerprint != fingerprint) {
+            slot = (slot + 1) & mask;
+        }
+        return slots[slot];
+    }
+    void Grow()
+    {
+        std::vector<Slot> larger(2 * slots_.size());
+        for (const Slot& slot : slots_) {
+            if (slot.place != kNone) SlotIn(larger, slot.fingerprint) = slot;
+        }
+        slots_.swap(larger);
+    }
+
+    std::vector<Slot> slots_ = std::vector<Slot>(64);
+    std::size_t known_ = 0;  // slots in use
+    std::size_t added_ = 0;
 };
 
 }  // namespace tamur::host

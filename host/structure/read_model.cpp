@@ -126,7 +126,7 @@ class ModelReader {
     {
         written_.push_back(PointOf(point));
         ++element.cornerCount;
-        if (IsSensible(written_.back())) return;
+        if (IsSensible(written_.back())) return around_.Add(written_.back());
         element.isUsable = false;
         structure_.absurd.try_emplace(element.firstCorner, GreatestOf(written_.back()));
     }
@@ -163,6 +163,7 @@ class ModelReader {
     ITAMURStructureReader& reader_;
     Structure structure_;
     std::vector<Point> written_;
+    Box around_;  // the sensible ones
     PropertyIndex materials_, sections_, releases_;
 };
 
@@ -392,23 +393,22 @@ void ModelReader::ReadGroupLoads()
 
 void ModelReader::MergePoints()
 {
-    Box around;
-    for (const Point& point : written_) {
-        if (IsSensible(point)) around.Add(point);
-    }
     TMRStructureData settings = {};
     Check(reader_.GetStructureGlobalData(&settings), "GetStructureGlobalData");
-    SetTolerances(structure_, settings.tol3D, around.Diagonal());
-    PointMerger merger(structure_.tolerance, around.low, written_.size());
+    SetTolerances(structure_, settings.tol3D, around_.Diagonal());
+    PointMerger merger(structure_.tolerance, around_.low, written_.size());
     structure_.corners.reserve(written_.size());
-    constexpr std::size_t kAhead = 16;
-    for (std::size_t i = 0; i < written_.size(); ++i) {
-        const std::size_t next = i + kAhead;
-        if (next < written_.size() && IsSensible(written_[next])) merger.Fetch(written_[next]);
-        const bool isSensible = IsSensible(written_[i]);
-        structure_.corners.push_back(isSensible ? merger.NumberOf(written_[i]) : kNone);
+    // What is between those that cannot be meant: usually all.
+    for (auto place = written_.begin(); place != written_.end();) {
+        const auto end = structure_.absurd.empty()
+                             ? written_.end()
+                             : std::find_if_not(place, written_.end(), IsSensible);
+        merger.AddNumbersOf({place, end}, structure_.corners);
+        if (end == written_.end()) break;
+        structure_.corners.push_back(kNone);
+        place = end + 1;
     }
-    structure_.points = std::move(merger.Points());
+    structure_.points = merger.Points();
     for (Bar& bar : structure_.bars) {
         if (!bar.isUsable) continue;
         bar.start = structure_.corners[bar.firstCorner];
@@ -432,11 +432,17 @@ Structure ReadModel(ITAMURStructureReader& reader)
 std::vector<Point> OutlineOf(const Structure& structure, const Element& element)
 {
     std::vector<Point> outline;
+    GetOutline(structure, element, outline);
+    return outline;
+}
+
+void GetOutline(const Structure& structure, const Element& element, std::vector<Point>& outline)
+{
+    outline.clear();
     outline.reserve(element.cornerCount);
     for (const Index corner : structure.CornersOf(element)) {
         outline.push_back(structure.points[corner]);
     }
-    return outline;
 }
 
 }  // namespace tamur::host

@@ -214,4 +214,7 @@ struct Structure {
 // The corners of a polygon as coordinates.
 [[nodiscard]] std::vector<Point> OutlineOf(const Structure& structure, const Element& element);
 
+// The same into a list that is used again and again.
+void GetOutline(const Structure& structure, const Element& element, std::vector<Point>& outline);
+
 }  // namespace tamur::host
