@@ -5,14 +5,32 @@
 #include <new>
 
 #include "host/file/import_audit.h"
+#include "platform/platform.h"
 #include "reader/observed_reader.h"
 
 namespace tamur::host {
+
+namespace {
+
+// The system gets names in its code page, or as UTF-8: another file may have the name that comes
+// out.
+bool SurvivesConversion(const std::string& utf8Path)
+{
+    const std::string narrow = platform::NarrowPath(FromUtf8(utf8Path).c_str());
+    return ToUtf8(platform::WidenPath(narrow)) == utf8Path;
+}
+
+}  // namespace
 
 ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
 {
     ImportAudit audit(findings);
     ImportedFile imported;
+    if (!SurvivesConversion(utf8Path)) {
+        imported.refusal = Finding{.code = Code::kNameNotConvertible};
+        findings.Add(*imported.refusal);
+        return imported;
+    }
     const ComPtr<ITAMURStructureReader> reader = NewObservedReader(audit);
     const String name(FromUtf8(utf8Path).c_str());
     if (reader->Import(name.Get()) == E_OUTOFMEMORY) throw std::bad_alloc();
