@@ -16,6 +16,7 @@ constexpr Rule kRules[] = {
     CheckSections,        CheckThicknesses,  CheckCoordinates,  CheckLoadValues,
     CheckUnitOfLength,    CheckSameSurfaces, CheckSameSupports, CheckCaseNumbers,
     CheckCircles,         CheckLoadColumns,  CheckGroups,       CheckGroupsOfLoads,
+    CheckTolerance,
 };
 
 std::vector<bool> SupportedPoints(const Structure& structure)

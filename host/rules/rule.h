@@ -54,6 +54,8 @@ class Report {
     {
         return lines_.IsMisread(about.kind, about.rank);
     }
+    // Whether the file or the model was said to have it already.
+    [[nodiscard]] bool WasSaid(Code code) const { return findings_.CountOf(code) > 0; }
     void Add(Code code, const About& about)
     {
         Add(code, about, [] { return std::vector<std::string>(); });
@@ -105,5 +107,6 @@ void CheckThicknesses(const Model& model, Report& report);
 void CheckCoordinates(const Model& model, Report& report);
 void CheckLoadValues(const Model& model, Report& report);
 void CheckUnitOfLength(const Model& model, Report& report);
+void CheckTolerance(const Model& model, Report& report);
 
 }  // namespace tamur::host

@@ -150,6 +150,7 @@ struct Structure {
     // Points nearer to each other than `tolerance` are one; what is nearer than `reach` was
     // probably meant to touch.
     double tolerance = 0;
+    double writtenTolerance = 0;  // in the file; taken when it can be meant
     double reach = 0;
     double extent = 0;  // the diagonal of the box around it
     // Whether all contacts were looked for: in a file where everything is near everything the
