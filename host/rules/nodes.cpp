@@ -117,6 +117,8 @@ void CheckIdentifiers(const Model& model, Report& report)
     CheckIdentifiersOf(s.walls, Kind::kNone, report);
     CheckIdentifiersOf(s.cables, Kind::kNone, report);
     CheckIdentifiersOf(s.innerLines, Kind::kNone, report);
+    CheckIdentifiersOf(s.cuts, Kind::kNone, report);
+    CheckIdentifiersOf(s.constructionLines, Kind::kNone, report);
     CheckIdentifiersOf(s.masses, Kind::kNone, report);
     CheckIdentifiersOf(s.displacements, Kind::kNone, report);
     for (const Kind kind : {Kind::kPointSupport, Kind::kLineSupport, Kind::kSurfaceSupport}) {

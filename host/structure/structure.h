@@ -170,7 +170,8 @@ struct Structure {
     std::vector<Bar> bars;
     std::vector<Surface> surfaces, openings, walls;
     std::vector<Element> cables, innerLines;
-    std::vector<int> cableCases;  // of each cable
+    std::vector<int> cableCases;                   // of each cable
+    std::vector<Element> cuts, constructionLines;  // without corners: nothing meets them
     std::vector<Support> supports;
     std::vector<Load> loads;
     std::vector<Load> masses, displacements;
