@@ -93,6 +93,8 @@ void CheckSameBars(const Model& model, Report& report)
             first = i;
             continue;
         }
+        // Of the same record twice the identifier is said.
+        if (ends[i].identifier == ends[i - 1].identifier) continue;
         report.Add(Code::kDuplicateBar, structure.bars[ends[i].bar],
                    [&] { return Values{std::to_string(ends[first].identifier)}; });
     }

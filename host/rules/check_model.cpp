@@ -8,11 +8,15 @@ namespace tamur::host {
 namespace {
 
 constexpr Rule kRules[] = {
-    CheckSupportOfParts, CheckSupports,    CheckSearch,       CheckFreeNodes,  CheckCoincidentNodes,
-    CheckIdentifiers,    CheckNearEnds,    CheckCrossings,    CheckSameBars,   CheckOverlaps,
-    CheckShortBars,      CheckJoints,      CheckOutlines,     CheckOpenings,   CheckLoadPlaces,
-    CheckCasesOfLoads,   CheckEmptyCases,  CheckCombinations, CheckUnused,     CheckMaterials,
-    CheckSections,       CheckThicknesses, CheckCoordinates,  CheckLoadValues, CheckUnitOfLength,
+    CheckSupportOfParts,  CheckSupports,     CheckSearch,       CheckFreeNodes,
+    CheckCoincidentNodes, CheckIdentifiers,  CheckNearEnds,     CheckCrossings,
+    CheckSameBars,        CheckOverlaps,     CheckShortBars,    CheckJoints,
+    CheckOutlines,        CheckOpenings,     CheckLoadPlaces,   CheckCasesOfLoads,
+    CheckEmptyCases,      CheckCombinations, CheckUnused,       CheckMaterials,
+    CheckSections,        CheckThicknesses,  CheckCoordinates,  CheckLoadValues,
+    CheckUnitOfLength,    CheckSameSurfaces, CheckSameSupports, CheckCaseNumbers,
+    CheckCircles,         CheckLoadColumns,  CheckGroups,       CheckGroupsOfLoads,
+    CheckTolerance,
 };
 
 std::vector<bool> SupportedPoints(const Structure& structure)

@@ -8,7 +8,12 @@
 namespace tamur::host {
 namespace {
 
-// The loads of each case that is not there, and the one with the smallest identifier.
+bool TakesLoads(CaseType type)
+{
+    return type == CaseType::kStatic || type == CaseType::kSelfWeight || type == CaseType::kThermal;
+}
+
+// The loads of each case that takes none, and the one with the smallest identifier.
 struct Lost {
     std::size_t count = 0;
     About first;
@@ -16,7 +21,8 @@ struct Lost {
 
 void Look(const LoadCases& cases, std::map<int, Lost>& lost, int number, const About& load)
 {
-    if (cases.byNumber.contains(number)) return;
+    const auto place = cases.byNumber.find(number);
+    if (place != cases.byNumber.end() && TakesLoads(cases.cases[place->second].type)) return;
     Lost& entry = lost[number];
     const auto order = [](const About& about) { return std::pair(about.identifier, about.kind); };
     if (entry.count++ == 0 || order(load) < order(entry.first)) entry.first = load;
@@ -31,17 +37,18 @@ std::unordered_set<int> CasesWithLoads(const Structure& structure)
     return loaded;
 }
 
-bool TakesLoads(CaseType type)
-{
-    return type == CaseType::kStatic || type == CaseType::kSelfWeight || type == CaseType::kThermal;
-}
-
 void CheckAtPoint(const Structure& structure, const std::vector<Load>& list, Report& report)
 {
     for (const Load& load : list) {
         if (!load.isUsable || !structure.membersAt[structure.CornersOf(load)[0]].empty()) continue;
         report.Add(Code::kLoadOffStructure, load);
     }
+}
+
+template <class Values>
+bool IsNothing(const Values& values)
+{
+    return std::all_of(values.begin(), values.end(), [](double value) { return value == 0; });
 }
 
 // Of each type the cases that no record of theirs makes.
@@ -91,9 +98,24 @@ void CheckCasesOfLoads(const Model& model, Report& report)
         Look(model.cases, lost, load.loadCase, {load.kind, load.rank, load.identifier});
     }
     for (const auto& [number, loads] : lost) {
-        report.Add(Code::kLoadInUnknownCase, loads.first, [&, of = number, count = loads.count] {
+        const bool isThere = model.cases.byNumber.contains(number);
+        const Code code = isThere ? Code::kLoadInOtherCase : Code::kLoadInUnknownCase;
+        report.Add(code, loads.first, [&, of = number, count = loads.count] {
             return Values{std::to_string(of), std::to_string(count)};
         });
+    }
+}
+
+void CheckLoadColumns(const Model& model, Report& report)
+{
+    for (const Load& load : model.structure.loads) {
+        if (IsNothing(load.values)) report.Add(Code::kLoadWithoutDirection, load);
+        if (load.frame >= 1 && load.frame <= 3) continue;
+        report.Add(Code::kUnknownFrame, load, [&] { return Values{std::to_string(load.frame)}; });
+    }
+    for (const GroupLoad& load : model.structure.groupLoads) {
+        if (!IsNothing(load.values)) continue;
+        report.Add(Code::kLoadWithoutDirection, {load.kind, load.rank, load.identifier});
     }
 }
 

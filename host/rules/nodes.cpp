@@ -37,10 +37,9 @@ std::unordered_set<std::int64_t> OrientationNodes(const Structure& structure)
 template <class Elements>
 bool AreAscending(const Elements& elements)
 {
-    return std::adjacent_find(elements.begin(), elements.end(),
-                              [](const Element& a, const Element& b) {
-                                  return a.kind == b.kind && a.identifier >= b.identifier;
-                              }) == elements.end();
+    return std::adjacent_find(elements.begin(), elements.end(), [](const auto& a, const auto& b) {
+               return a.kind == b.kind && a.identifier >= b.identifier;
+           }) == elements.end();
 }
 
 template <class Elements>
@@ -101,7 +100,8 @@ void CheckCoincidentNodes(const Model& model, Report& report)
         }
     });
     forEach([&](Index node, const Index& first) {
-        if (node == first) return;
+        // Of the same record twice the identifier is said.
+        if (structure.nodes[node].identifier == structure.nodes[first].identifier) return;
         report.Add(Code::kCoincidentNodes, structure.nodes[node],
                    [&] { return Values{std::to_string(structure.nodes[first].identifier)}; });
     });
@@ -115,8 +115,20 @@ void CheckIdentifiers(const Model& model, Report& report)
     CheckIdentifiersOf(s.surfaces, Kind::kNone, report);
     CheckIdentifiersOf(s.openings, Kind::kNone, report);
     CheckIdentifiersOf(s.walls, Kind::kNone, report);
+    CheckIdentifiersOf(s.cables, Kind::kNone, report);
+    CheckIdentifiersOf(s.innerLines, Kind::kNone, report);
+    CheckIdentifiersOf(s.cuts, Kind::kNone, report);
+    CheckIdentifiersOf(s.constructionLines, Kind::kNone, report);
+    CheckIdentifiersOf(s.masses, Kind::kNone, report);
+    CheckIdentifiersOf(s.displacements, Kind::kNone, report);
     for (const Kind kind : {Kind::kPointSupport, Kind::kLineSupport, Kind::kSurfaceSupport}) {
         CheckIdentifiersOf(s.supports, kind, report);
+    }
+    for (const Kind kind : {Kind::kPointLoad, Kind::kLineLoad, Kind::kSurfaceLoad}) {
+        CheckIdentifiersOf(s.loads, kind, report);
+    }
+    for (const Kind kind : {Kind::kSelfWeight, Kind::kThermalLoad}) {
+        CheckIdentifiersOf(s.groupLoads, kind, report);
     }
 }
 

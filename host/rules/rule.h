@@ -42,7 +42,7 @@ class Report {
     template <class MakeValues>
     void Add(Code code, const About& about, const MakeValues& makeValues)
     {
-        if (lines_.IsMisread(about.kind, about.rank)) return;
+        if (IsMisread(about)) return;
         if (!findings_.Holds(code)) return findings_.Count(code);
         findings_.Add({code,
                        {.line = lines_.At(about.kind, about.rank)},
@@ -50,6 +50,12 @@ class Report {
                        about.identifier,
                        makeValues()});
     }
+    [[nodiscard]] bool IsMisread(const About& about) const
+    {
+        return lines_.IsMisread(about.kind, about.rank);
+    }
+    // Whether the file or the model was said to have it already.
+    [[nodiscard]] bool WasSaid(Code code) const { return findings_.CountOf(code) > 0; }
     void Add(Code code, const About& about)
     {
         Add(code, about, [] { return std::vector<std::string>(); });
@@ -75,6 +81,9 @@ void CheckSearch(const Model& model, Report& report);
 void CheckFreeNodes(const Model& model, Report& report);
 void CheckCoincidentNodes(const Model& model, Report& report);
 void CheckIdentifiers(const Model& model, Report& report);
+void CheckSameSurfaces(const Model& model, Report& report);
+void CheckSameSupports(const Model& model, Report& report);
+void CheckCaseNumbers(const Model& model, Report& report);
 void CheckNearEnds(const Model& model, Report& report);
 void CheckCrossings(const Model& model, Report& report);
 void CheckSameBars(const Model& model, Report& report);
@@ -87,6 +96,10 @@ void CheckLoadPlaces(const Model& model, Report& report);
 void CheckCasesOfLoads(const Model& model, Report& report);
 void CheckEmptyCases(const Model& model, Report& report);
 void CheckCombinations(const Model& model, Report& report);
+void CheckCircles(const Model& model, Report& report);
+void CheckLoadColumns(const Model& model, Report& report);
+void CheckGroups(const Model& model, Report& report);
+void CheckGroupsOfLoads(const Model& model, Report& report);
 void CheckUnused(const Model& model, Report& report);
 void CheckMaterials(const Model& model, Report& report);
 void CheckSections(const Model& model, Report& report);
@@ -94,5 +107,6 @@ void CheckThicknesses(const Model& model, Report& report);
 void CheckCoordinates(const Model& model, Report& report);
 void CheckLoadValues(const Model& model, Report& report);
 void CheckUnitOfLength(const Model& model, Report& report);
+void CheckTolerance(const Model& model, Report& report);
 
 }  // namespace tamur::host

@@ -42,6 +42,16 @@ void CheckOutline(const Structure& structure, const Surface& surface, Report& re
     }
 }
 
+void CheckOutlineOfLoad(const Structure& structure, const Load& load, Report& report)
+{
+    if (!load.isUsable || load.cornerCount <= 3) return;
+    const std::vector<Point> outline = OutlineOf(structure, load);
+    const Polygon polygon(outline);
+    if (!polygon.IsConvex() && CrossesItself(polygon, structure.tolerance)) {
+        report.Add(Code::kOutlineCrossesItself, load);
+    }
+}
+
 bool IsOn(const Structure& structure, Index point, Member member, Budget& budget)
 {
     const auto members = structure.membersAt[point];
@@ -49,8 +59,17 @@ bool IsOn(const Structure& structure, Index point, Member member, Budget& budget
            std::find(members.begin(), members.end(), member) != members.end();
 }
 
-// The surface that most corners of the opening are on, that with the smallest identifier of
-// several.
+bool IsInPlaneOf(const Structure& structure, const Surface& opening, const Surface& surface)
+{
+    const auto corners = structure.CornersOf(opening);
+    return std::all_of(corners.begin(), corners.end(), [&](Index corner) {
+        return std::abs(surface.plane.DistanceTo(structure.points[corner])) <=
+               structure.tolerance + surface.outOfPlane;
+    });
+}
+
+// Of the surfaces in its plane that which most corners of the opening are on, of several that with
+// the smallest identifier.
 std::optional<Index> SurfaceUnder(const Structure& structure, const Surface& opening,
                                   Budget& budget)
 {
@@ -60,6 +79,8 @@ std::optional<Index> SurfaceUnder(const Structure& structure, const Surface& ope
     for (const Index corner : corners) {
         for (const Member& member : structure.membersAt[corner]) {
             if (member.kind != Kind::kSurface) continue;
+            if (!budget.Spend(corners.size())) return best;
+            if (!IsInPlaneOf(structure, opening, structure.surfaces[member.index])) continue;
             const auto on = std::count_if(corners.begin(), corners.end(), [&](Index other) {
                 return IsOn(structure, other, member, budget);
             });
@@ -107,6 +128,9 @@ void CheckOutlines(const Model& model, Report& report)
                    [&] { return Values{LengthText(surface.outOfPlane)}; });
     }
     for (const Surface& opening : structure.openings) CheckOutline(structure, opening, report);
+    for (const Load& load : structure.loads) {
+        if (load.kind == Kind::kSurfaceLoad) CheckOutlineOfLoad(structure, load, report);
+    }
 }
 
 void CheckOpenings(const Model& model, Report& report)

@@ -1,6 +1,4 @@
 // What the tables hold and no element names.
-#include <set>
-
 #include "host/rules/rule.h"
 
 namespace tamur::host {
@@ -31,28 +29,6 @@ Used UsedBy(const Structure& structure)
     return used;
 }
 
-// What a group gathers, as the numbers of its first column say.
-int GroupKindOf(Kind kind)
-{
-    switch (kind) {
-        case Kind::kPointSupport: return 1;
-        case Kind::kSurfaceSupport: return 4;
-        case Kind::kLineSupport: return 5;
-        default: return 0;
-    }
-}
-
-std::set<std::pair<int, int>> GroupsWithElements(const Structure& structure)
-{
-    std::set<std::pair<int, int>> full;
-    for (const Bar& bar : structure.bars) full.emplace(2, bar.group);
-    for (const Surface& surface : structure.surfaces) full.emplace(3, surface.group);
-    for (const Support& support : structure.supports) {
-        full.emplace(GroupKindOf(support.kind), support.group);
-    }
-    return full;
-}
-
 template <class Records>
 void ReportUnused(const Records& records, const std::vector<bool>& used, Code code, Kind kind,
                   Report& report)
@@ -74,15 +50,6 @@ void CheckUnused(const Model& model, Report& report)
                  report);
     ReportUnused(structure.sections, used.sections, Code::kUnusedSection, Kind::kSection, report);
     ReportUnused(structure.releases, used.releases, Code::kUnusedRelease, Kind::kRelease, report);
-    const auto full = GroupsWithElements(structure);
-    for (Index rank = 0; rank < structure.groups.size(); ++rank) {
-        const Group& group = structure.groups[rank];
-        // Groups of what the reader does not know are not judged.
-        if (group.elements < 1 || group.elements > 5) continue;
-        if (full.contains({group.elements, group.number})) continue;
-        report.Add(Code::kUnusedGroup, {Kind::kGroup, rank, group.number},
-                   [&] { return Values{group.title}; });
-    }
 }
 
 }  // namespace tamur::host

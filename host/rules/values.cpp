@@ -11,6 +11,14 @@ namespace {
 constexpr double kSoftest = 1e7;
 // From concrete upwards nothing is as light as its mass in kg; nothing at all as in kN.
 constexpr double kStiff = 1.9e10, kLightestOfStiff = 8000, kLightest = 1000;
+// Heavier than soil, or as heavy as wood, and softer than either: stiffness in kN.
+constexpr double kHeavy = 22500, kSoftestHeavy = 1e9;
+constexpr double kLightestWood = 3000, kHeaviestWood = 9000, kSoftestWood = 1e8;
+// Of metal nothing has an area that concrete has.
+constexpr double kMetal = 6e10, kLargestAreaOfMetal = 1;
+// Iy + Iz over the square of the area: 0.16 of a disc, which has the least, a few thousand of
+// chords far apart. Units that do not agree are off by 1e8.
+constexpr double kLeastSpread = 1e-4, kMostSpread = 1e6;
 constexpr double kLargestArea = 50, kThickest = 10, kLongest = 300;
 constexpr double kGreatestValue = 1e30;
 
@@ -40,6 +48,12 @@ struct Speaker {
     }
 };
 
+bool IsSoftForWeight(double modulus, double weight)
+{
+    const bool isWood = weight >= kLightestWood && weight <= kHeaviestWood;
+    return (weight >= kHeavy && modulus < kSoftestHeavy) || (isWood && modulus < kSoftestWood);
+}
+
 void CheckMaterial(const Material& material, const Speaker& speaker)
 {
     const double e = material.modulus, weight = material.weight;
@@ -47,7 +61,7 @@ void CheckMaterial(const Material& material, const Speaker& speaker)
     const bool isStiff = e > 0 && std::isfinite(e);
     if (!isStiff) {
         speaker.Say(Code::kBadModulus, e);
-    } else if (e < kSoftest) {
+    } else if (e < kSoftest || IsSoftForWeight(e, weight)) {
         speaker.Say(Code::kUnitOfModulus, e);
     }
     if (IsNot(material.poisson >= 0 && material.poisson < 0.5)) {
@@ -60,19 +74,34 @@ void CheckMaterial(const Material& material, const Speaker& speaker)
     }
 }
 
-void CheckSection(const Section& section, const Speaker& speaker)
+// The inertias against the area, where there are any.
+bool IsSpreadPossible(const Section& section)
+{
+    const double spread = (section.constants[4] + section.constants[5]) /
+                          (section.constants[0] * section.constants[0]);
+    return spread == 0 || (spread >= kLeastSpread && spread <= kMostSpread);
+}
+
+void CheckSection(const Section& section, bool isMetal, const Speaker& speaker)
 {
     const double area = section.constants[0];
     if (IsNot(area > 0 && std::isfinite(area))) {
         speaker.Say(Code::kBadArea, area);
-    } else if (area > kLargestArea) {
+    } else if (area > (isMetal ? kLargestAreaOfMetal : kLargestArea)) {
         speaker.Say(Code::kUnitOfSection, area);
     }
     const auto* const end = section.constants.begin() + 6;
     const auto* const bad = std::find_if(section.constants.begin() + 1, end, [](double value) {
         return IsNot(value >= 0 && std::isfinite(value));
     });
-    if (bad != end) speaker.Say(Code::kBadInertia, *bad);
+    if (bad != end) {
+        speaker.Say(Code::kBadInertia, *bad);
+    } else if (area > 0 && area <= kLargestAreaOfMetal && !IsSpreadPossible(section)) {
+        const double inertia = section.constants[4] + section.constants[5];
+        speaker.report.Add(Code::kUnitOfInertia, speaker.about, [&] {
+            return Values{section.name, Number(inertia), Number(area)};
+        });
+    }
 }
 
 template <class Elements>
@@ -119,10 +148,18 @@ void CheckSections(const Model& model, Report& report)
             mark(bar.endSection);
         }
     });
+    const auto ofMetal = UsedOf(structure.sections.size(), [&](const auto& mark) {
+        for (const Bar& bar : structure.bars) {
+            if (bar.material == kNone || structure.materials[bar.material].modulus < kMetal)
+                continue;
+            mark(bar.startSection);
+            mark(bar.endSection);
+        }
+    });
     for (Index rank = 0; rank < structure.sections.size(); ++rank) {
         const Section& section = structure.sections[rank];
         const About about(Kind::kSection, rank, Finding::kNoIdentifier);
-        if (used[rank]) CheckSection(section, {report, about, section.name});
+        if (used[rank]) CheckSection(section, ofMetal[rank], {report, about, section.name});
     }
 }
 
@@ -185,6 +222,20 @@ void CheckUnitOfLength(const Model& model, Report& report)
     if (*middle > kLongest) {
         report.Add(Code::kUnitOfLength, {}, [&] { return Values{LengthText(*middle)}; });
     }
+}
+
+void CheckTolerance(const Model& model, Report& report)
+{
+    const Structure& structure = model.structure;
+    if (structure.extent == 0 || structure.tolerance == structure.writtenTolerance) return;
+    // Without the setting, or where it was misread, the cause has been said.
+    for (const Code code : {Code::kSettingMissing, Code::kSettingMisspelt, Code::kSettingEmpty,
+                            Code::kMisspeltHeader, Code::kDecimalComma, Code::kUnreadableColumn}) {
+        if (structure.writtenTolerance == 0 && report.WasSaid(code)) return;
+    }
+    report.Add(Code::kToleranceReplaced, {}, [&] {
+        return Values{LengthText(structure.writtenTolerance), LengthText(structure.tolerance)};
+    });
 }
 
 }  // namespace tamur::host

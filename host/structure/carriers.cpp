@@ -82,7 +82,7 @@ class CarrierFinder {
         double covered = 0;
         bool isOnSurface = false;
         for (std::size_t i = 0; i < polygon.Size(); ++i) {
-            const Coverage coverage = search_->Cover(polygon.Edge(i));
+            const Coverage coverage = search_->Cover(polygon.Edge(i), &polygon);
             covered += coverage.share * polygon.Edge(i).Length();
             isOnSurface = isOnSurface || coverage.isOnSurface;
             Append(coverage.members);

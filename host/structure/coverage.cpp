@@ -48,6 +48,14 @@ std::optional<double> PlaceOfCrossing(const Polygon& polygon, const Segment& lin
     return onLine;
 }
 
+// Folds of a roof lie as each other, a floor and a wall do not.
+bool LieAlike(const Polygon& polygon, const Surface& surface)
+{
+    constexpr double kAlike = 0.7;  // 45 degrees
+    return polygon.Area() == 0 ||
+           std::abs(Dot(polygon.ThePlane().normal, surface.plane.normal)) >= kAlike;
+}
+
 }  // namespace
 
 CoverageSearch::CoverageSearch(const Structure& structure)
@@ -118,7 +126,7 @@ double CoverageSearch::CoveredShare(double gap)
     return covered >= 1 - gap ? 1 : covered;
 }
 
-Coverage CoverageSearch::Cover(const Segment& line)
+Coverage CoverageSearch::Cover(const Segment& line, const Polygon* edgeOf)
 {
     Coverage coverage;
     const double length = line.Length();
@@ -137,6 +145,7 @@ Coverage CoverageSearch::Cover(const Segment& line)
         const bool isWall = place >= structure_.surfaces.size();
         const Surface& surface = isWall ? structure_.walls[place - structure_.surfaces.size()]
                                         : structure_.surfaces[place];
+        if (edgeOf != nullptr && !LieAlike(*edgeOf, surface)) return;
         if (!budget_.Spend(surface.cornerCount) || !AddSurface(line, surface)) return;
         coverage.isOnSurface = true;
         if (!isWall) coverage.members.push_back({Kind::kSurface, place});
@@ -150,12 +159,17 @@ bool CoverageSearch::HasMemberIn(const Polygon& polygon)
     Box around;
     for (std::size_t i = 0; i < polygon.Size(); ++i) around.Add(polygon.Edge(i).start);
     around = around.Grown(structure_.tolerance);
+    const double reach = structure_.tolerance + polygon.OutOfPlane();
     bool isFound = false;
     const auto meets = [&](const Box& box) { return !isFound && box.Meets(around); };
     const auto look = [&](const Element& member) {
         if (isFound || !budget_.Spend(polygon.Size())) return;
-        const Point first = structure_.points[structure_.CornersOf(member)[0]];
-        isFound = polygon.Contains(first, structure_.tolerance);
+        const auto corners = structure_.CornersOf(member);
+        isFound = polygon.Contains(structure_.points[corners[0]], structure_.tolerance) &&
+                  std::all_of(corners.begin(), corners.end(), [&](Index corner) {
+                      const Point point = structure_.points[corner];
+                      return std::abs(polygon.ThePlane().DistanceTo(point)) <= reach;
+                  });
     };
     (void)bars_.Visit(budget_, meets, [&](Index bar) { look(structure_.bars[bar]); });
     (void)surfaces_.Visit(budget_, meets, [&](Index place) {

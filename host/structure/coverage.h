@@ -16,10 +16,11 @@ class CoverageSearch {
  public:
     explicit CoverageSearch(const Structure& structure);
 
-    // Walls carry too, and are not among the members.
-    [[nodiscard]] Coverage Cover(const Segment& line);
+    // Walls carry too, and are not among the members. Of the edges of a polygon only surfaces that
+    // lie more or less as it does count, not those that cross it or stand on it.
+    [[nodiscard]] Coverage Cover(const Segment& line, const Polygon* edgeOf = nullptr);
 
-    // Whether a bar or a surface begins in the polygon.
+    // Whether a bar or a surface begins in the polygon and lies in its plane.
     [[nodiscard]] bool HasMemberIn(const Polygon& polygon);
 
     [[nodiscard]] bool IsComplete() const { return !budget_.IsSpent(); }

@@ -272,6 +272,13 @@ void ModelReader::ReadLines()
         AddPoints(line, record.Geometrie);
         structure_.innerLines.push_back(line);
     });
+    ForEach<TMRSurfacicSection>([this](TMRSurfacicSection& record, Index rank) {
+        structure_.cuts.push_back(Begin<Element>(Kind::kSurfaceSection, rank, record.identifier));
+    });
+    ForEach<TMRLine>([this](TMRLine& record, Index rank) {
+        structure_.constructionLines.push_back(
+            Begin<Element>(Kind::kConstructionLine, rank, record.identifier));
+    });
 }
 
 template <class PublicRecord>

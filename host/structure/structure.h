@@ -150,6 +150,7 @@ struct Structure {
     // Points nearer to each other than `tolerance` are one; what is nearer than `reach` was
     // probably meant to touch.
     double tolerance = 0;
+    double writtenTolerance = 0;  // in the file; taken when it can be meant
     double reach = 0;
     double extent = 0;  // the diagonal of the box around it
     // Whether all contacts were looked for: in a file where everything is near everything the
@@ -169,7 +170,8 @@ struct Structure {
     std::vector<Bar> bars;
     std::vector<Surface> surfaces, openings, walls;
     std::vector<Element> cables, innerLines;
-    std::vector<int> cableCases;  // of each cable
+    std::vector<int> cableCases;                   // of each cable
+    std::vector<Element> cuts, constructionLines;  // without corners: nothing meets them
     std::vector<Support> supports;
     std::vector<Load> loads;
     std::vector<Load> masses, displacements;

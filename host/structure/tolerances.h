@@ -22,6 +22,7 @@ inline void SetTolerances(Structure& structure, double written, double extent)
 {
     constexpr double kMost = 1e-2, kLeast = 1e-13, kOwn = 1e-6, kReach = 10;
     structure.extent = extent;
+    structure.writtenTolerance = written;
     const bool isUsable = written <= kMost * extent && written >= kLeast * extent && written > 0;
     structure.tolerance = isUsable ? written : extent > 0 ? kOwn * extent : kOwn;
     structure.reach = kReach * structure.tolerance;
