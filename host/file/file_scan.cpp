@@ -49,8 +49,15 @@ bool FileScan::IsUtf16() const
            (start_.size() > 1 && start_[0] == '#' && start_[1] == '\0');
 }
 
+bool FileScan::HasOnlyReturns() const
+{
+    return hasReturn_ && !hasFeed_;
+}
+
 void FileScan::Add(std::string_view piece)
 {
+    hasReturn_ = hasReturn_ || piece.find('\r') != piece.npos;
+    hasFeed_ = hasFeed_ || piece.find('\n') != piece.npos;
     if (start_.empty()) start_ = piece.substr(0, kByteOrderMark.size());
     while (!piece.empty()) {
         const std::size_t feed = piece.find('\n');
@@ -78,7 +85,7 @@ void FileScan::AddLine(std::string_view line, std::uint64_t offset)
         return;
     }
     if (now_ == &beforeHeaders_ && firstDataLine_ == 0) firstDataLine_ = Lines();
-    if (!IsBlank(first) || WithoutBlanks(line)[0] != '#') return;
+    if (!IsBlank(first) || !WithoutBlanks(line).starts_with('#')) return;
     // A blank makes it a line of data.
     if (const auto meant = HeaderMeantBy(TextOfLine(line))) AddNear(line, *meant);
 }
@@ -86,14 +93,15 @@ void FileScan::AddLine(std::string_view line, std::uint64_t offset)
 void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
 {
     ++headerLines_;
+    EndUnknown();
     const std::string_view text = TextOfLine(line);
     const auto known = std::find(kSectionHeaders.begin(), kSectionHeaders.end(), text);
     if (known == kSectionHeaders.end()) {
         now_ = &foreign_;
         if (const auto meant = HeaderMeantBy(text)) return AddNear(line, *meant);
-        if (!findings_.Holds(Code::kUnknownHeader)) return findings_.Count(Code::kUnknownHeader);
-        return findings_.Add(
-            {.code = Code::kUnknownHeader, .place = PlaceOf(text), .values = {AnsiToUtf8(text)}});
+        unknown_ = {AnsiToUtf8(text), PlaceOf(text)};
+        dataBeforeUnknown_ = foreign_.Data();
+        return;
     }
     FoundHeader& header = headers_[static_cast<std::size_t>(known - kSectionHeaders.begin())];
     if (header.line != 0) {
@@ -105,6 +113,17 @@ void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
     header.line = Lines();
     header.offset = offset;
     now_ = &header.stretch;
+}
+
+// What is under a header decides how much it matters.
+void FileScan::EndUnknown()
+{
+    if (!unknown_) return;
+    const std::uint64_t lost = foreign_.Data() - dataBeforeUnknown_;
+    findings_.Add({.code = lost > 0 ? Code::kUnknownHeader : Code::kUnknownHeaderAlone,
+                   .place = unknown_->place,
+                   .values = {unknown_->text, std::to_string(lost)}});
+    unknown_.reset();
 }
 
 void FileScan::AddNear(std::string_view line, SectionHeader meant)

@@ -42,6 +42,8 @@ class FileScan {
 
     // The next piece of the text: it begins where a line does.
     void Add(std::string_view piece);
+    // After the last one.
+    void Finish() { EndUnknown(); }
 
     // Of the section with that header, by its spelling; the accented one as it is.
     [[nodiscard]] const FoundHeader& Of(SectionHeader header) const
@@ -67,10 +69,13 @@ class FileScan {
     [[nodiscard]] const Stretch& Foreign() const { return foreign_; }  // unknown or repeated
     [[nodiscard]] bool HasByteOrderMark() const { return start_.starts_with("\xEF\xBB\xBF"); }
     [[nodiscard]] bool IsUtf16() const;
+    // No line ends where the import ends one.
+    [[nodiscard]] bool HasOnlyReturns() const;
 
  private:
     void AddLine(std::string_view line, std::uint64_t offset);
     void AddSharp(std::string_view line, std::uint64_t offset);
+    void EndUnknown();
     void AddNear(std::string_view line, SectionHeader meant);
     [[nodiscard]] Place PlaceOf(std::string_view line) const;
 
@@ -87,6 +92,10 @@ class FileScan {
     std::uint64_t headerLines_ = 0;
     std::uint32_t firstDataLine_ = 0;
     bool isCut_ = false;
+    bool hasReturn_ = false;
+    bool hasFeed_ = false;
+    std::optional<NearHeader> unknown_;  // the header of the section that is passed over now
+    std::uint64_t dataBeforeUnknown_ = 0;
 };
 
 // What is said of a line that is nearly a header.

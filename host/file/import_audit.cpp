@@ -384,6 +384,7 @@ void ImportAudit::Finish(const std::string& path)
 {
     CloseLine();
     EndSetting();
+    scan_.Finish();
     if (refusal_ == Refusal::kCannotOpen) {
         whyRefused_ = WhyNotOpened(path);
         findings_.Add(*whyRefused_);
