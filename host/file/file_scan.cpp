@@ -85,9 +85,39 @@ void FileScan::AddLine(std::string_view line, std::uint64_t offset)
         return;
     }
     if (now_ == &beforeHeaders_ && firstDataLine_ == 0) firstDataLine_ = Lines();
-    if (!IsBlank(first) || !WithoutBlanks(line).starts_with('#')) return;
+    if (!WithoutBlanks(line).starts_with('#')) return AddWord(line);
     // A blank makes it a line of data.
     if (const auto meant = HeaderMeantBy(TextOfLine(line))) AddNear(line, *meant);
+}
+
+// A line that is but one word may be a header that lost its "#". Few lines are; no file makes more
+// work than that of some.
+void FileScan::AddWord(std::string_view line)
+{
+    constexpr std::size_t kLongest = 32;
+    constexpr std::uint32_t kMost = 1000;
+    if (line.size() > kLongest || words_ == kMost) return;
+    std::string_view word = WithoutBlanks(TextOfLine(line));
+    while (!word.empty() && IsBlank(word.back())) word.remove_suffix(1);
+    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    if (word.empty() || !isLetter(word[0]) || std::any_of(word.begin(), word.end(), IsBlank))
+        return;
+    ++words_;
+    const auto meant = HeaderMeantBy('#' + std::string(word));
+    if (!meant || named_[static_cast<std::size_t>(*meant)]) return;
+    const std::string_view text = TextOfLine(line);
+    named_[static_cast<std::size_t>(*meant)] = {AnsiToUtf8(text), PlaceOf(text), now_};
+}
+
+std::uint32_t FileScan::MeantEndOf(SectionHeader header) const
+{
+    std::uint32_t end = 0;
+    for (std::size_t i = 0; i < kSectionHeaders.size(); ++i) {
+        const auto& near = NearOf(static_cast<SectionHeader>(i));
+        if (!near || near->within != &Of(header).stretch) continue;
+        if (end == 0 || near->place.line < end) end = near->place.line;
+    }
+    return end;
 }
 
 void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
@@ -99,7 +129,7 @@ void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
     if (known == kSectionHeaders.end()) {
         now_ = &foreign_;
         if (const auto meant = HeaderMeantBy(text)) return AddNear(line, *meant);
-        unknown_ = {AnsiToUtf8(text), PlaceOf(text)};
+        unknown_ = {AnsiToUtf8(text), PlaceOf(text), nullptr};
         dataBeforeUnknown_ = foreign_.Data();
         return;
     }
@@ -134,7 +164,8 @@ void FileScan::AddNear(std::string_view line, SectionHeader meant)
         return findings_.Count(Code::kMisspeltHeader);
     }
     const std::string_view text = TextOfLine(line);
-    NearHeader found = {AnsiToUtf8(text), PlaceOf(text)};
+    const bool isData = !text.starts_with('#');
+    NearHeader found = {AnsiToUtf8(text), PlaceOf(text), isData ? now_ : nullptr};
     if (!isFirst) return findings_.Add(MisspeltHeader(found, meant));
     near = std::move(found);
 }

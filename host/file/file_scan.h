@@ -25,6 +25,7 @@ struct Stretch {
 struct NearHeader {
     std::string text;  // UTF-8
     Place place;
+    const Stretch* within = nullptr;  // that it is a line of data of; null when it ends that
 };
 
 // A header that the import knows, where it counts.
@@ -56,8 +57,11 @@ class FileScan {
     // The first line that seems to mean a section, by its plain header. Further ones are findings.
     [[nodiscard]] const std::optional<NearHeader>& NearOf(SectionHeader plain) const
     {
-        return near_[static_cast<std::size_t>(plain)];
+        const auto i = static_cast<std::size_t>(plain);
+        return near_[i] || Has(plain) ? near_[i] : named_[i];
     }
+    // The first line of the section from which on its lines seem to be of another; 0 for none.
+    [[nodiscard]] std::uint32_t MeantEndOf(SectionHeader header) const;
 
     [[nodiscard]] std::uint64_t Bytes() const { return bytes_; }
     // Lines of the file, and those that the import makes of what is cut off them.
@@ -76,12 +80,16 @@ class FileScan {
     void AddLine(std::string_view line, std::uint64_t offset);
     void AddSharp(std::string_view line, std::uint64_t offset);
     void EndUnknown();
+    void AddWord(std::string_view line);
     void AddNear(std::string_view line, SectionHeader meant);
     [[nodiscard]] Place PlaceOf(std::string_view line) const;
 
     Findings& findings_;
     std::array<FoundHeader, kSectionHeaders.size()> headers_;
     std::array<std::optional<NearHeader>, kSectionHeaders.size()> near_;
+    // Header words without their "#", which may be anything where the section is there.
+    std::array<std::optional<NearHeader>, kSectionHeaders.size()> named_;
+    std::uint32_t words_ = 0;
     Stretch beforeHeaders_;
     Stretch foreign_;
     Stretch* now_ = &beforeHeaders_;  // what the lines belong to

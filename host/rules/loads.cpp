@@ -91,6 +91,7 @@ void CheckCasesOfLoads(const Model& model, Report& report)
         Look(model.cases, lost, load.loadCase, {load.kind, load.rank, load.identifier});
     }
     for (const auto& [number, loads] : lost) {
+        if (report.IsLostCase(number)) continue;
         report.Add(Code::kLoadInUnknownCase, loads.first, [&, of = number, count = loads.count] {
             return Values{std::to_string(of), std::to_string(count)};
         });

@@ -11,7 +11,6 @@ namespace tamur::test {
 namespace {
 
 using testing::AllOf;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::Eq;
 using testing::HasSubstr;
@@ -192,7 +191,7 @@ TEST(FileFindings, TheRestOfACutLineIsOfTheSameLine)
 TEST(FileFindings, AHeaderWithABlankBeforeItIsALineOfData)
 {
     const CheckedFile file = CheckText(ModelText().Elements({kNode, " #Cas"}).Text());
-    EXPECT_THAT(file.Lines(), Contains(HasSubstr("\" #Cas\" must be exactly #Cas")));
+    EXPECT_THAT(file.Lines(), ElementsAre(HasSubstr("\" #Cas\" must be exactly #Cas")));
 }
 
 // Nothing in a text reaches a terminal as it is.
@@ -263,6 +262,79 @@ TEST(Headers, AMisspeltOneIsTheOnlyFinding)
         changed.insert(changed.find(header) + header.size(), " ");
         EXPECT_THAT(CheckText(changed).Codes(), ElementsAre("TMR102")) << header;
     }
+}
+
+TEST(Headers, AWordIsOneWhereItsSectionIsMissing)
+{
+    for (const std::string word : {"Cas", "cas", " Cas", "Cas  "}) {
+        const ModelText before =
+            ModelText().Section("#Groupes", {"1 1 1 A Oui", word, "1 G 1 G 0"});
+        const CheckedFile without = CheckText(ModelText(before).Elements({kNode}).Text());
+        EXPECT_THAT(without.Lines(), ElementsAre(HasSubstr("must be exactly #Cas"))) << word;
+        EXPECT_TRUE(without.imported.balance.AddsUp());
+        const CheckedFile with =
+            CheckText(ModelText(before).Section("#Cas", {}).Elements({kNode}).Text());
+        EXPECT_THAT(with.Codes(), ElementsAre("TMR202")) << word;
+    }
+}
+
+// Of a case that is not imported it is said, and not of what lacks it.
+TEST(LostCases, AreTheOnlyFinding)
+{
+    const auto linesWith = [](const std::string& lost) {
+        return CheckText(
+                   ModelText()
+                       .Section("#Cas", {"1 G 1 G 0", lost, "11 A 2 A 0", "12 B 2 B 0"})
+                       .Section("#TAB_PARAM_CAS", {"11 2 1 1 2 1 32767 0", "12 2 11 1 32767 0"})
+                       .Elements({kNode, "8 2 0 0 0 0 0 0 2 0 0 -1 2 1"})
+                       .Text())
+            .Lines();
+    };
+    EXPECT_THAT(linesWith("2 Q 1 Q 0"), IsEmpty());
+    EXPECT_THAT(linesWith("2 Q 6 Q 0"), ElementsAre(StartsWith("TMR301 ")));
+    EXPECT_THAT(linesWith("2 Q R 1 Q 0"), ElementsAre(StartsWith("TMR203 ")));
+    EXPECT_THAT(linesWith("x Q 1 Q 0"), ElementsAre(StartsWith("TMR203 ")));
+    EXPECT_THAT(linesWith("2 Q 2 1 Q 0"), ElementsAre(StartsWith("TMR226 ")));
+    EXPECT_THAT(linesWith("3 Q 6 Q 0"), ElementsAre(StartsWith("TMR301 "), StartsWith("TMR304 "),
+                                                    StartsWith("TMR304 "), StartsWith("TMR312 ")));
+}
+
+TEST(LostCases, DoNotExplainWhatIsWrongWithALoadItself)
+{
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"x G 1 G 0"})
+                                           .Elements({kNode, "8 2 0 0 0 0 0 0 1 0 0 y 2 1"})
+                                           .Text());
+    EXPECT_THAT(file.Lines(), ElementsAre(StartsWith("TMR203 10:"), StartsWith("TMR203 13:")));
+}
+
+TEST(LostCases, MayBeEndedByANul)
+{
+    std::string lost = "2 Q 1 Q 0";
+    lost[3] = '\0';
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"1 G 1 G 0", lost})
+                                           .Elements({kNode, "8 2 0 0 0 0 0 0 2 0 0 -1 2 1"})
+                                           .Text());
+    EXPECT_THAT(file.Codes(), ElementsAre("TMR114"));
+}
+
+TEST(LostCases, ExplainParametersThatAreNotRead)
+{
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"1 G 1 G 0", "11 1.35 G 2 A 0"})
+                                           .Section("#TAB_PARAM_CAS", {"11 2 1 1 32767 0"})
+                                           .Elements({kNode})
+                                           .Text());
+    EXPECT_THAT(file.Codes(), ElementsAre("TMR203"));
+}
+
+TEST(FileFindings, ALineThatANulEndsDoesNotEndEarlyToo)
+{
+    std::string nul = kBar + "1 1 1 1 1 5";
+    nul[nul.size() - 2] = '\0';
+    const CheckedFile file = CheckText(WithTables().Elements({nul}).Text());
+    EXPECT_THAT(file.Lines(), ElementsAre(HasSubstr("bar 9: a NUL character ends the line")));
 }
 
 std::string RefusalOf(const CheckedFile& file)
