@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <vector>
 
 #include "host/kinds.h"
@@ -31,6 +32,16 @@ class RecordLines {
         return std::binary_search(misread_.begin(), misread_.end(), At(kind, rank));
     }
 
+    // The load case was not imported, or not as it is written, and that was said: whatever lacks it
+    // is a consequence. Which one it was is not always readable: then it may be any.
+    void MarkLostCase(std::int32_t number) { lostCases_.insert(number); }
+    void MarkAnyCaseLost() { mayAnyCaseBeLost_ = true; }
+    [[nodiscard]] bool IsLostCase(std::int32_t number) const
+    {
+        return mayAnyCaseBeLost_ || lostCases_.contains(number);
+    }
+    [[nodiscard]] bool IsAnyCaseLost() const { return mayAnyCaseBeLost_ || !lostCases_.empty(); }
+
     [[nodiscard]] std::vector<std::uint32_t>& Of(Kind kind)
     {
         return lines_[static_cast<std::size_t>(kind)];
@@ -43,6 +54,8 @@ class RecordLines {
  private:
     std::array<std::vector<std::uint32_t>, kKindCount> lines_;
     std::vector<std::uint32_t> misread_;
+    std::set<std::int32_t> lostCases_;
+    bool mayAnyCaseBeLost_ = false;
 };
 
 }  // namespace tamur::host

@@ -49,8 +49,15 @@ bool FileScan::IsUtf16() const
            (start_.size() > 1 && start_[0] == '#' && start_[1] == '\0');
 }
 
+bool FileScan::HasOnlyReturns() const
+{
+    return hasReturn_ && !hasFeed_;
+}
+
 void FileScan::Add(std::string_view piece)
 {
+    hasReturn_ = hasReturn_ || piece.find('\r') != piece.npos;
+    hasFeed_ = hasFeed_ || piece.find('\n') != piece.npos;
     if (start_.empty()) start_ = piece.substr(0, kByteOrderMark.size());
     while (!piece.empty()) {
         const std::size_t feed = piece.find('\n');
@@ -78,22 +85,53 @@ void FileScan::AddLine(std::string_view line, std::uint64_t offset)
         return;
     }
     if (now_ == &beforeHeaders_ && firstDataLine_ == 0) firstDataLine_ = Lines();
-    if (!IsBlank(first) || WithoutBlanks(line)[0] != '#') return;
+    if (!WithoutBlanks(line).starts_with('#')) return AddWord(line);
     // A blank makes it a line of data.
     if (const auto meant = HeaderMeantBy(TextOfLine(line))) AddNear(line, *meant);
+}
+
+// A line that is but one word may be a header that lost its "#". Few lines are; no file makes more
+// work than that of some.
+void FileScan::AddWord(std::string_view line)
+{
+    constexpr std::size_t kLongest = 32;
+    constexpr std::uint32_t kMost = 1000;
+    if (line.size() > kLongest || words_ == kMost) return;
+    std::string_view word = WithoutBlanks(TextOfLine(line));
+    while (!word.empty() && IsBlank(word.back())) word.remove_suffix(1);
+    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    if (word.empty() || !isLetter(word[0]) || std::any_of(word.begin(), word.end(), IsBlank))
+        return;
+    ++words_;
+    const auto meant = HeaderMeantBy('#' + std::string(word));
+    if (!meant || named_[static_cast<std::size_t>(*meant)]) return;
+    const std::string_view text = TextOfLine(line);
+    named_[static_cast<std::size_t>(*meant)] = {AnsiToUtf8(text), PlaceOf(text), now_};
+}
+
+std::uint32_t FileScan::MeantEndOf(SectionHeader header) const
+{
+    std::uint32_t end = 0;
+    for (std::size_t i = 0; i < kSectionHeaders.size(); ++i) {
+        const auto& near = NearOf(static_cast<SectionHeader>(i));
+        if (!near || near->within != &Of(header).stretch) continue;
+        if (end == 0 || near->place.line < end) end = near->place.line;
+    }
+    return end;
 }
 
 void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
 {
     ++headerLines_;
+    EndUnknown();
     const std::string_view text = TextOfLine(line);
     const auto known = std::find(kSectionHeaders.begin(), kSectionHeaders.end(), text);
     if (known == kSectionHeaders.end()) {
         now_ = &foreign_;
         if (const auto meant = HeaderMeantBy(text)) return AddNear(line, *meant);
-        if (!findings_.Holds(Code::kUnknownHeader)) return findings_.Count(Code::kUnknownHeader);
-        return findings_.Add(
-            {.code = Code::kUnknownHeader, .place = PlaceOf(text), .values = {AnsiToUtf8(text)}});
+        unknown_ = {AnsiToUtf8(text), PlaceOf(text), nullptr};
+        dataBeforeUnknown_ = foreign_.Data();
+        return;
     }
     FoundHeader& header = headers_[static_cast<std::size_t>(known - kSectionHeaders.begin())];
     if (header.line != 0) {
@@ -107,6 +145,17 @@ void FileScan::AddSharp(std::string_view line, std::uint64_t offset)
     now_ = &header.stretch;
 }
 
+// What is under a header decides how much it matters.
+void FileScan::EndUnknown()
+{
+    if (!unknown_) return;
+    const std::uint64_t lost = foreign_.Data() - dataBeforeUnknown_;
+    findings_.Add({.code = lost > 0 ? Code::kUnknownHeader : Code::kUnknownHeaderAlone,
+                   .place = unknown_->place,
+                   .values = {unknown_->text, std::to_string(lost)}});
+    unknown_.reset();
+}
+
 void FileScan::AddNear(std::string_view line, SectionHeader meant)
 {
     std::optional<NearHeader>& near = near_[static_cast<std::size_t>(meant)];
@@ -115,7 +164,8 @@ void FileScan::AddNear(std::string_view line, SectionHeader meant)
         return findings_.Count(Code::kMisspeltHeader);
     }
     const std::string_view text = TextOfLine(line);
-    NearHeader found = {AnsiToUtf8(text), PlaceOf(text)};
+    const bool isData = !text.starts_with('#');
+    NearHeader found = {AnsiToUtf8(text), PlaceOf(text), isData ? now_ : nullptr};
     if (!isFirst) return findings_.Add(MisspeltHeader(found, meant));
     near = std::move(found);
 }

@@ -63,7 +63,9 @@ void ImportAudit::OnSection(SectionHeader header, std::uint64_t)
 {
     CloseLine();
     EndSetting();
+    if (IsExplained(SectionHeader::kCases)) lines_.MarkAnyCaseLost();
     section_ = header;
+    explainedFrom_ = scan_.MeantEndOf(header);
     read_.insert(header);
     line_ = scan_.Of(header).line;
     column_ = 0;
@@ -79,7 +81,7 @@ void ImportAudit::OnLine(std::string_view text, bool isCut)
     column_ = isRest ? column_ + cutSize_ : 0;
     cutSize_ = isCut ? static_cast<std::uint32_t>(text.size()) : 0;
     now_ = {};
-    now_.isExplained = isRest;
+    now_.isExplained = isRest || (explainedFrom_ != 0 && line_ >= explainedFrom_);
     now_.line = line_;
     now_.column = column_;
     if (IsSetting(*section_)) return ReadSetting(text);
@@ -161,19 +163,34 @@ void ImportAudit::ReadElementLine(std::string_view text)
 // What of the file's line is not in the text that is read.
 void ImportAudit::CheckEnd(std::string_view text, bool isCut)
 {
-    if (isCut) findings_.Add({.code = Code::kLineCut, .place = {.line = line_}});
+    if (isCut) {
+        findings_.Add(Spoken().Of({.code = Code::kLineCut, .place = {.line = line_}}));
+        ExplainEnd();
+    }
     const std::size_t nul = text.find('\0');
     if (nul == text.npos) return;
     std::string_view rest = text.substr(nul);
     rest.remove_prefix(
         std::min(rest.find_first_not_of(std::string_view("\0 \t\r", 4)), rest.size()));
     if (rest.empty()) return;
+    ExplainEnd();
     if (!findings_.Holds(Code::kTextAfterNul)) return findings_.Count(Code::kTextAfterNul);
-    findings_.Add({.code = Code::kTextAfterNul,
-                   .place = {.line = line_,
-                             .column = column_ + static_cast<std::uint32_t>(nul) + 1,
-                             .length = static_cast<std::uint32_t>(text.size() - nul)},
-                   .values = {AnsiToUtf8(rest)}});
+    findings_.Add(Spoken().Of({.code = Code::kTextAfterNul,
+                               .place = {.line = line_,
+                                         .column = column_ + static_cast<std::uint32_t>(nul) + 1,
+                                         .length = static_cast<std::uint32_t>(text.size() - nul)},
+                               .values = {AnsiToUtf8(rest)}}));
+}
+
+// What the line lacks is in the part of it that was said not to be read.
+void ImportAudit::ExplainEnd()
+{
+    const auto what = walk_.Last().problem.what;
+    if (what == Problem::What::kEnds || what == Problem::What::kListEnds ||
+        what == Problem::What::kUnended) {
+        MarkMisread();
+        now_.isExplained = true;
+    }
 }
 
 void ImportAudit::Drop(Code why)
@@ -219,9 +236,9 @@ void ImportAudit::OnFinding(tamur::Finding finding)
         case tamur::Finding::kSelfWeightRefused: return RefuseLoad(Kind::kSelfWeight);
         case tamur::Finding::kThermalRefused: return RefuseLoad(Kind::kThermalLoad);
         case tamur::Finding::kCombinationOfNoCase:
-            return Drop(cases_.CombinationOfNoCase(now_.caseNumber));
+            return DropCombination(cases_.CombinationOfNoCase(now_.caseNumber));
         case tamur::Finding::kCombinationSkipped:
-            return Drop(cases_.SkipCombination(now_.caseNumber, walked.cases));
+            return DropCombination(cases_.SkipCombination(now_.caseNumber, walked.cases));
         // Of these the walk knows more.
         case tamur::Finding::kUnreadableColumn:
         case tamur::Finding::kMaterialReplaced:
@@ -232,18 +249,38 @@ void ImportAudit::OnFinding(tamur::Finding finding)
     }
 }
 
+// The first value is the case that is missing in the end.
+void ImportAudit::DropCombination(Finding why)
+{
+    if (lines_.IsLostCase(std::stoi(why.values[0]))) now_.isExplained = true;
+    Drop(std::move(why));
+}
+
+// A line of #Cas that gives no case, or another one.
+void ImportAudit::LoseCase()
+{
+    if (now_.kind != Kind::kCase || now_.isExplained || now_.isBlank) return;
+    const std::int64_t number = walk_.Last().identifier;
+    if (number < 0) {
+        lines_.MarkAnyCaseLost();
+    } else {
+        lines_.MarkLostCase(static_cast<std::int32_t>(number));
+    }
+}
+
 void ImportAudit::RefuseLoad(Kind kind)
 {
     const WalkedLine& walked = walk_.Last();
     cases_.AddLoad(kind, walked.caseNumber, line_, walked.identifier);
     Drop(cases_.RefuseLoad(kind, walked.caseNumber, line_, findings_));
-    // Without the section there is no case for any load.
-    if (now_.dropped == Code::kLoadOfNoCase && IsExplained(SectionHeader::kCases)) {
-        now_.isExplained = true;
+    const bool isForLackOfCase =
+        now_.dropped == Code::kLoadOfNoCase || now_.dropped == Code::kLoadOfOtherCase;
+    const auto what = walked.problem.what;
+    if (what == Problem::What::kFine || what == Problem::What::kLeftOver) {
+        if (isForLackOfCase && lines_.IsLostCase(walked.caseNumber)) now_.isExplained = true;
+        return;
     }
     // What could not be read explains what does not fit.
-    const auto what = walked.problem.what;
-    if (what == Problem::What::kFine || what == Problem::What::kLeftOver) return;
     Drop(Code::kUnreadableLine);
     now_.why.reset();
 }
@@ -317,7 +354,7 @@ void ImportAudit::CloseKept()
         case Kind::kCombination: break;  // served in another order
         default: lines_.Of(now_.kind).push_back(now_.line); break;
     }
-    if (now_.isExplained) return;
+    if (now_.isExplained) return lines_.MarkMisread(now_.line);
     if (now_.isBlank) {
         findings_.Add(Spoken().Of({.code = Code::kBlankLine}));
         return;
@@ -332,7 +369,7 @@ void ImportAudit::CloseKept()
 void ImportAudit::AddMissingCases(const SpokenLine& line)
 {
     for (const Reference& reference : walk_.Last().cases) {
-        if (cases_.Has(reference.number)) continue;
+        if (cases_.Has(reference.number) || lines_.IsLostCase(reference.number)) continue;
         const Code code = Code::kEnvelopeOfMissingCase;
         if (!findings_.Holds(code)) {
             findings_.Count(code);
@@ -349,11 +386,13 @@ void ImportAudit::MarkMisread()
 {
     const bool isParameters = section_ == SectionHeader::kCaseParameters;
     lines_.MarkMisread(isParameters ? cases_.LineOf(now_.caseNumber) : now_.line);
+    LoseCase();
 }
 
 void ImportAudit::CloseDropped()
 {
     if (section_ == SectionHeader::kCaseParameters) MarkMisread();
+    LoseCase();
     const Code code = *now_.dropped;
     const bool isLoad = now_.kind == Kind::kSelfWeight || now_.kind == Kind::kThermalLoad;
     const bool isInBook = isLoad && code != Code::kCountTooLarge;
@@ -384,6 +423,7 @@ void ImportAudit::Finish(const std::string& path)
 {
     CloseLine();
     EndSetting();
+    scan_.Finish();
     if (refusal_ == Refusal::kCannotOpen) {
         whyRefused_ = WhyNotOpened(path);
         findings_.Add(*whyRefused_);
@@ -439,8 +479,13 @@ void ImportAudit::FinishTables()
     take(Kind::kCase, cases_.KeptCases());
     take(Kind::kSelfWeight, cases_.KeptLoads(Kind::kSelfWeight));
     take(Kind::kThermalLoad, cases_.KeptLoads(Kind::kThermalLoad));
-    if (IsExplained(SectionHeader::kCaseParameters)) {
-        for (const std::uint32_t line : lines_.Of(Kind::kCase)) lines_.MarkMisread(line);
+    const auto markAll = [this](Kind kind) {
+        for (const std::uint32_t line : lines_.Of(kind)) lines_.MarkMisread(line);
+    };
+    if (IsExplained(SectionHeader::kCaseParameters)) markAll(Kind::kCase);
+    if (IsExplained(SectionHeader::kGroups)) {
+        markAll(Kind::kSelfWeight);
+        markAll(Kind::kThermalLoad);
     }
     lines_.SortMisread();
     for (const auto& [number, line] : combinations_) {
@@ -486,7 +531,7 @@ void ImportAudit::FinishSections()
 {
     const FoundHeader& parameters = scan_.Of(SectionHeader::kCaseParameters);
     const bool isRead = read_.contains(SectionHeader::kCaseParameters);
-    if (!isRead && parameters.stretch.Data() > 0 && !IsExplained(SectionHeader::kCases)) {
+    if (!isRead && parameters.stretch.Data() > 0 && !lines_.IsAnyCaseLost()) {
         findings_.Add({.code = Code::kParametersNotRead,
                        .place = {.line = parameters.line},
                        .values = {std::to_string(parameters.stretch.Data())}});
@@ -508,7 +553,8 @@ void ImportAudit::FinishSettings()
          section = static_cast<SectionHeader>(static_cast<int>(section) + 1)) {
         const FoundHeader& found = scan_.Of(section);
         const std::uint64_t further = found.stretch.Data() - balance_.Of(section).data;
-        if (further == 0 || emptySettings_.contains(section)) continue;
+        const bool isSaid = emptySettings_.contains(section) || scan_.MeantEndOf(section) != 0;
+        if (further == 0 || isSaid) continue;
         findings_.Add({.code = Code::kLinesAfterSetting,
                        .place = {.line = found.line + 2},
                        .values = {std::string(PlainTextOf(section)), std::to_string(further)}});

@@ -73,6 +73,9 @@ class ImportAudit final : public ImportObserver {
     void Drop(Finding why);
     void DropUnread();
     void RefuseLoad(Kind kind);
+    void DropCombination(Finding why);
+    void LoseCase();
+    void ExplainEnd();
     void AddMissingCases(const SpokenLine& line);
     [[nodiscard]] SpokenLine Spoken() const;
     [[nodiscard]] ReferenceCounts Counts() const;
@@ -106,6 +109,7 @@ class ImportAudit final : public ImportObserver {
     Current now_;
     std::string text_;  // of the current line, when there is something to say about it
     std::uint32_t line_ = 0;
+    std::uint32_t explainedFrom_ = 0;  // the line from which on the lines are of another section
     std::uint32_t column_ = 0;
     std::uint32_t cutSize_ = 0;  // of the line before, when the current one is its rest
 

@@ -40,6 +40,13 @@ Code CodeOf(Oddity::What what)
     }
 }
 
+// Releases and parameters have texts further on, where a blank moves nothing that counts.
+bool MayHaveMoved(Kind kind, const WalkedLine& walked)
+{
+    return walked.textBeforeNumbers.column != nullptr && kind != Kind::kRelease &&
+           kind != Kind::kModes && kind != Kind::kSeismicCase;
+}
+
 }  // namespace
 
 std::string SpokenLine::TextOf(Span span) const
@@ -86,6 +93,9 @@ void LineFindings::AddProblem(const SpokenLine& line, const WalkedLine& walked)
 {
     const Problem& problem = walked.problem;
     const Code code = CodeOf(problem, line.kind);
+    if (code == Code::kTextLeftOver && MayHaveMoved(line.kind, walked)) {
+        return AddMoved(line, walked);
+    }
     Report(code, line, problem.text, problem.column, [&]() -> Values {
         switch (code) {
             case Code::kListShort:
@@ -96,6 +106,15 @@ void LineFindings::AddProblem(const SpokenLine& line, const WalkedLine& walked)
                     line.TextOf(problem.text),
                     line.TextOf({problem.text.begin, std::max(problem.read, problem.text.begin)})};
         }
+    });
+}
+
+// A column too many, in a line where a text with a blank makes one.
+void LineFindings::AddMoved(const SpokenLine& line, const WalkedLine& walked)
+{
+    const Words& words = walked.textBeforeNumbers;
+    Report(Code::kColumnsMoved, line, words.text, words.column, [&]() -> Values {
+        return {line.TextOf(words.text), line.TextOf(walked.problem.text)};
     });
 }
 
@@ -113,7 +132,13 @@ void LineFindings::AddEnd(const SpokenLine& line, const Problem& problem)
 void LineFindings::AddOddity(const SpokenLine& line, const Oddity& oddity)
 {
     const Code code = CodeOf(oddity.what);
-    if (code == Code::kUnknownCode && !unknownCodes_.insert({line.kind, oddity.column}).second) {
+    if (code == Code::kUnknownCode) {
+        UnknownCodes& unknown = unknownCodes_[{line.kind, oddity.column}];
+        if (unknown.count++ > 0) return;
+        unknown.first = line.Of({.code = code,
+                                 .place = line.PlaceOf(oddity.text),
+                                 .values = {line.TextOf(oddity.text)},
+                                 .column = oddity.column->name});
         return;
     }
     Report(code, line, oddity.text, oddity.column, [&]() -> Values {
@@ -170,6 +195,10 @@ void LineFindings::AddUtf8(const SpokenLine& line, const WalkedLine& walked)
 
 void LineFindings::Finish(const Balance& balance)
 {
+    for (auto& [where, unknown] : unknownCodes_) {
+        unknown.first.values.push_back(std::to_string(unknown.count));
+        findings_.Add(std::move(unknown.first));
+    }
     for (auto& [where, ends] : ends_) {
         const std::uint64_t lines = balance.Of(where.first).records;
         if (where.first != Kind::kNone && lines > 1 && ends.count == lines) {

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <map>
-#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -71,7 +70,14 @@ class LineFindings {
         std::vector<Finding> findings;  // of the first
     };
 
+    // Lines with a number that has no meaning in the column.
+    struct UnknownCodes {
+        std::uint64_t count = 0;
+        Finding first;
+    };
+
     void AddProblem(const SpokenLine& line, const WalkedLine& walked);
+    void AddMoved(const SpokenLine& line, const WalkedLine& walked);
     void AddEnd(const SpokenLine& line, const Problem& problem);
     void AddOddity(const SpokenLine& line, const Oddity& oddity);
     void AddReferences(const SpokenLine& line, const WalkedLine& walked,
@@ -84,7 +90,7 @@ class LineFindings {
 
     Findings& findings_;
     std::map<std::pair<Kind, const Column*>, Ends> ends_;
-    std::set<std::pair<Kind, const Column*>> unknownCodes_;
+    std::map<std::pair<Kind, const Column*>, UnknownCodes> unknownCodes_;
     std::uint64_t defaultMaterialUsers_ = 0;
     std::uint64_t defaultSectionUsers_ = 0;
     std::uint64_t noReleaseUsers_ = 0;

@@ -43,6 +43,7 @@ void LineWalk::Restart(std::string_view text)
     line_.references.clear();
     line_.cases.clear();
     line_.utf8 = Span();
+    line_.textBeforeNumbers = Words();
     group_ = 0;
     labelCount_ = 0;
     announced_ = 0;
@@ -122,11 +123,12 @@ bool LineWalk::WalkGroup(Scanner& scanner, const ColumnGroup& group, std::int32_
 {
     announced_ = group.times == Times::kOnce || group.times == Times::kRadius ? 0 : times;
     held_ = 0;
-    groupStart_ = scanner.Place();
+    passedOverStart_ = scanner.Place();
     const std::int64_t rounds = std::int64_t{times} * group.repeated;
     for (std::int64_t i = 0; i < rounds; ++i, ++held_) {
         for (const Column& column : group.columns) {
             if (!Read(scanner, column)) return false;
+            if (column.role != Role::kPassedOver) passedOverStart_ = scanner.Place();
         }
     }
     announced_ = 0;
@@ -232,9 +234,11 @@ bool LineWalk::ReadNumber(Scanner& scanner, const Column& column, T& value)
         NoteFailure(column, place);
         return false;
     }
-    isAfterWord_ = false;
     // The stream passes the blank after a number.
     const char* const next = scanner.Place();
+    const bool isFirstAfterText = isAfterWord_ && line_.textBeforeNumbers.column == nullptr;
+    if (isFirstAfterText) NoteTextBefore(SkipBlanks(place));
+    isAfterWord_ = false;
     const bool isGlued = *next != '\0' && !IsBlank(*next) && !IsBlank(next[-1]);
     if (isGlued) NoteGlue(column, SkipBlanks(place), next);
     if constexpr (std::is_floating_point_v<T>) {
@@ -262,6 +266,7 @@ bool LineWalk::ReadWord(Scanner& scanner, const Column& column)
     const char* const end = word.data() + word.size();
     const bool isCut = word.size() == kLongestColumn && *end != '\0' && !IsBlank(*end);
     const Span text = {PlaceOf(word.data()), PlaceOf(end)};
+    lastWord_ = {&column, text};
     if (!kIsStream<Scanner> && isCut) NoteProblem({Problem::What::kWordCut, &column, text});
     if (line_.utf8.end == 0 && LooksLikeUtf8(word)) line_.utf8 = text;
     return true;
@@ -346,7 +351,7 @@ void LineWalk::NoteFailure(const Column& column, const char* place)
     problem.held = held_;
     if (*begin == '\0') {
         // Of columns that are not read all are there or none; some are others that were moved.
-        if (column.role == Role::kPassedOver) return NoteRest(groupStart_);
+        if (column.role == Role::kPassedOver) return NoteRest(passedOverStart_);
         if (column.role == Role::kOptional) return;
         problem.what = announced_ > 0 ? Problem::What::kListEnds : Problem::What::kEnds;
     } else if (column.role == Role::kPassedOver) {
@@ -364,6 +369,12 @@ void LineWalk::NoteRest(const char* place)
     const char* end = begin + std::strlen(begin);
     while (IsBlank(end[-1])) --end;
     NoteProblem({Problem::What::kLeftOver, nullptr, {PlaceOf(begin), PlaceOf(end)}});
+}
+
+void LineWalk::NoteTextBefore(const char* number)
+{
+    line_.textBeforeNumbers = lastWord_;
+    line_.textBeforeNumbers.text.end = WordAt(number).end;
 }
 
 void LineWalk::NoteProblem(const Problem& problem)

@@ -60,6 +60,11 @@ struct Reference {
     Span text;
 };
 
+struct Words {
+    const Column* column = nullptr;
+    Span text;
+};
+
 // What a line holds, as far as other lines depend on it.
 struct WalkedLine {
     std::int64_t identifier = -1;
@@ -73,6 +78,8 @@ struct WalkedLine {
     std::vector<Reference> references;
     std::vector<Reference> cases;  // that a combination or an envelope names
     Span utf8;                     // a text that looks like UTF-8; empty when none does
+    // The first text that a number follows, with that: it may be one text with a blank.
+    Words textBeforeNumbers;
 };
 
 class LineWalk {
@@ -115,6 +122,7 @@ class LineWalk {
     void NoteGlue(const Column& column, const char* begin, const char* end);
     void NoteFailure(const Column& column, const char* place);
     void NoteRest(const char* place);
+    void NoteTextBefore(const char* number);
     void NoteProblem(const Problem& problem);
     void NoteOddity(Oddity::What what, const Column& column, Span text, std::int64_t value);
 
@@ -128,7 +136,8 @@ class LineWalk {
     const char* end_ = text_;
     WalkedLine line_;
     std::uint8_t group_ = 0;
-    const char* groupStart_ = text_;
+    const char* passedOverStart_ = text_;  // after the last column that the import reads
+    Words lastWord_;
     std::int32_t labelCount_ = 0;
     std::int32_t announced_ = 0;  // of the list that is being walked, 0 outside of lists
     std::int32_t held_ = 0;

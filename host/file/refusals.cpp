@@ -13,12 +13,14 @@ Finding FindingOfMissing(SectionHeader header, const FileScan& scan, const FileT
 {
     const std::string text(PlainTextOf(header));
     if (scan.IsUtf16()) return {.code = Code::kUtf16, .place = {.line = 1}};
+    if (scan.HasOnlyReturns()) return {.code = Code::kOnlyReturns, .place = {.line = 1}};
     const auto& near = scan.NearOf(header);
     if (near && !(scan.HasByteOrderMark() && near->place.line == 1)) {
         return {.code = Code::kSettingMisspelt, .place = near->place, .values = {near->text, text}};
     }
     if (scan.HasByteOrderMark()) return {.code = Code::kByteOrderMark, .place = {.line = 1}};
     if (tail.dataLines > 0) return TextAfterEnd(scan, tail);
+    if (scan.Bytes() == 0) return {.code = Code::kEmptyFile};
     if (header == SectionHeader::kVersion) return {.code = Code::kNoVersion};
     return {.code = Code::kSettingMissing, .values = {text}};
 }
@@ -26,10 +28,13 @@ Finding FindingOfMissing(SectionHeader header, const FileScan& scan, const FileT
 // The version is below 10.1 as text; as a number it need not be.
 Finding FindingOfVersion(const FileScan& scan, const std::string& version)
 {
+    const std::uint32_t line = scan.Of(SectionHeader::kVersion).line + 1;
+    const bool isAbsent =
+        version.find_first_not_of(" \t\r") == version.npos || version.starts_with('#');
+    if (isAbsent) return {.code = Code::kVersionAbsent, .place = {.line = line - 1}};
     const double number = std::strtod(version.c_str(), nullptr);
     const bool isWritten = !version.empty() && version[0] >= '0' && version[0] <= '9';
     const Code code = isWritten && number < 10.1 ? Code::kVersionTooOld : Code::kVersionUnreadable;
-    const std::uint32_t line = scan.Of(SectionHeader::kVersion).line + 1;
     return {.code = code, .place = {.line = line}, .values = {version}};
 }
 

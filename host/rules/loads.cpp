@@ -98,6 +98,7 @@ void CheckCasesOfLoads(const Model& model, Report& report)
         Look(model.cases, lost, load.loadCase, {load.kind, load.rank, load.identifier});
     }
     for (const auto& [number, loads] : lost) {
+        if (report.IsLostCase(number)) continue;
         const bool isThere = model.cases.byNumber.contains(number);
         const Code code = isThere ? Code::kLoadInOtherCase : Code::kLoadInUnknownCase;
         report.Add(code, loads.first, [&, of = number, count = loads.count] {

@@ -61,6 +61,9 @@ class Report {
         Add(code, about, [] { return std::vector<std::string>(); });
     }
 
+    // Of a case that was lost it has been said that it was.
+    [[nodiscard]] bool IsLostCase(int number) const { return lines_.IsLostCase(number); }
+
  private:
     const RecordLines& lines_;
     Findings& findings_;

@@ -242,7 +242,9 @@ TEST(LineWalk, StopsWhereTheImportStops)
                 case Code::kListShort:
                 case Code::kLineEndsEarly: ++stops; break;
                 case Code::kColumnsAbsent: stops += std::stoul(finding.values[0]); break;
-                // The line may end too early all the same.
+                // The line may end too early all the same, or because of that.
+                case Code::kTextAfterNul:
+                case Code::kLineCut:
                 case Code::kUnreadableLine:
                 case Code::kColumnSplit:
                 case Code::kDecimalComma:

@@ -10,7 +10,7 @@
 namespace tamur::test {
 namespace {
 
-using testing::Contains;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::Eq;
 using testing::HasSubstr;
@@ -71,7 +71,7 @@ TEST(FileFindings, BarsEndWithFiveRealsFromVersion122AOn)
             .Text();
     };
     EXPECT_THAT(CheckText(text("12.2A")).Lines(), IsEmpty());
-    EXPECT_THAT(CheckText(text("12.1")).Codes(), ElementsAre("TMR209"));
+    EXPECT_THAT(CheckText(text("12.1")).Codes(), ElementsAre("TMR226"));
 }
 
 // A label with a blank moves the columns into the ones that are not read.
@@ -88,7 +88,49 @@ TEST(FileFindings, SomeOfTheFiveRealsAreTextLeftOver)
             .Codes();
     };
     EXPECT_THAT(linesWith("P"), IsEmpty());
-    EXPECT_THAT(linesWith("P 2"), ElementsAre("TMR209"));
+    EXPECT_THAT(linesWith("P 2"), ElementsAre("TMR226"));
+}
+
+TEST(FileFindings, ColumnsThatMayBeMovedAreShownWhereTheyBegin)
+{
+    const CheckedFile file =
+        CheckText(WithTables().Section("#Cas", {"2 Neige 1 1 N 0"}).Elements({kNode}).Text());
+    EXPECT_THAT(
+        file.Lines(),
+        ElementsAre("TMR226 16:3+7 load case 2: is \"Neige 1\" one title with a blank? The "
+                    "line has columns too many: \"N 0\" is left over, and all columns after "
+                    "the title may be moved"));
+}
+
+TEST(FileFindings, TheColumnsOfCasesThatAreNotReadMayBeAbsent)
+{
+    const CheckedFile file =
+        CheckText(ModelText().Section("#Cas", {"2 Neige 1 N"}).Elements({kNode}).Text());
+    EXPECT_THAT(file.Lines(), IsEmpty());
+}
+
+TEST(FileFindings, LinesOfBlanksAreNoHeaders)
+{
+    const CheckedFile file = CheckText("  " + ModelText().Elements({kNode}).Text() + " \t");
+    EXPECT_THAT(file.Codes(), ElementsAre("TMR007"));
+    EXPECT_THAT(CheckText(ModelText().Elements({kNode}).Text() + "   ").Codes(),
+                ElementsAre("TMR225"));
+}
+
+TEST(FileFindings, AnUnknownCodeIsSaidOnceWithTheNumberOfItsLines)
+{
+    const std::string support = "4 4 0 1 0 0 0 0 0 0 0 1 9 0 0 1 1 1 0 0 0 0 0 0 0 0 0 0";
+    EXPECT_THAT(CheckText(ModelText().Elements({support, support}).Text()).Lines(),
+                ElementsAre(AllOf(StartsWith("TMR223 10:25+1"), HasSubstr("column: 2)"))));
+}
+
+// What is lost under it makes an unknown header a warning.
+TEST(FileFindings, UnknownHeadersSayHowManyLinesAreNotImported)
+{
+    const CheckedFile file = CheckText(
+        ModelText().Elements({kNode, "# poutres", kBar, "", kBar, "#a", "#b", kBar}).Text());
+    EXPECT_THAT(file.Lines(), ElementsAre(HasSubstr("(lines: 2)"), StartsWith("TMR115 15:"),
+                                          HasSubstr("(lines: 1)")));
 }
 
 TEST(FileFindings, ColumnsThatAllLinesLackAreANoteAndOthersAreNot)
@@ -149,7 +191,7 @@ TEST(FileFindings, TheRestOfACutLineIsOfTheSameLine)
 TEST(FileFindings, AHeaderWithABlankBeforeItIsALineOfData)
 {
     const CheckedFile file = CheckText(ModelText().Elements({kNode, " #Cas"}).Text());
-    EXPECT_THAT(file.Lines(), Contains(HasSubstr("\" #Cas\" must be exactly #Cas")));
+    EXPECT_THAT(file.Lines(), ElementsAre(HasSubstr("\" #Cas\" must be exactly #Cas")));
 }
 
 // Nothing in a text reaches a terminal as it is.
@@ -170,7 +212,7 @@ TEST(FileFindings, ManyOfACodeAreCountedAndFewHeld)
     const TemporaryFile file(text);
     host::Findings findings(10);
     (void)host::ImportFile(Utf8Path(file.Path()), findings);
-    EXPECT_EQ(findings.CountOf(host::Code::kUnknownHeader), 5000);
+    EXPECT_EQ(findings.CountOf(host::Code::kUnknownHeaderAlone), 5000);
     EXPECT_EQ(findings.CountOf(host::Code::kMisspeltHeader), 5000);
     EXPECT_EQ(findings.CountOf(host::Code::kRepeatedHeader), 5000);
     EXPECT_LE(findings.InFileOrder().size(), 50);
@@ -203,7 +245,7 @@ TEST(Headers, AreSuggestedForWhatIsLikeThem)
     for (const std::string header : {"#Fin", "#Options", "#S", "#Noeuds", "#"}) {
         const CheckedFile file =
             CheckText(ModelText().Elements({kNode}).Section(header, {}).Text());
-        EXPECT_THAT(file.Codes(), ElementsAre("TMR101")) << header;
+        EXPECT_THAT(file.Codes(), ElementsAre("TMR115")) << header;
     }
 }
 
@@ -220,6 +262,79 @@ TEST(Headers, AMisspeltOneIsTheOnlyFinding)
         changed.insert(changed.find(header) + header.size(), " ");
         EXPECT_THAT(CheckText(changed).Codes(), ElementsAre("TMR102")) << header;
     }
+}
+
+TEST(Headers, AWordIsOneWhereItsSectionIsMissing)
+{
+    for (const std::string word : {"Cas", "cas", " Cas", "Cas  "}) {
+        const ModelText before =
+            ModelText().Section("#Groupes", {"1 1 1 A Oui", word, "1 G 1 G 0"});
+        const CheckedFile without = CheckText(ModelText(before).Elements({kNode}).Text());
+        EXPECT_THAT(without.Lines(), ElementsAre(HasSubstr("must be exactly #Cas"))) << word;
+        EXPECT_TRUE(without.imported.balance.AddsUp());
+        const CheckedFile with =
+            CheckText(ModelText(before).Section("#Cas", {}).Elements({kNode}).Text());
+        EXPECT_THAT(with.Codes(), ElementsAre("TMR202")) << word;
+    }
+}
+
+// Of a case that is not imported it is said, and not of what lacks it.
+TEST(LostCases, AreTheOnlyFinding)
+{
+    const auto linesWith = [](const std::string& lost) {
+        return CheckText(
+                   ModelText()
+                       .Section("#Cas", {"1 G 1 G 0", lost, "11 A 2 A 0", "12 B 2 B 0"})
+                       .Section("#TAB_PARAM_CAS", {"11 2 1 1 2 1 32767 0", "12 2 11 1 32767 0"})
+                       .Elements({kNode, "8 2 0 0 0 0 0 0 2 0 0 -1 2 1"})
+                       .Text())
+            .Lines();
+    };
+    EXPECT_THAT(linesWith("2 Q 1 Q 0"), IsEmpty());
+    EXPECT_THAT(linesWith("2 Q 6 Q 0"), ElementsAre(StartsWith("TMR301 ")));
+    EXPECT_THAT(linesWith("2 Q R 1 Q 0"), ElementsAre(StartsWith("TMR203 ")));
+    EXPECT_THAT(linesWith("x Q 1 Q 0"), ElementsAre(StartsWith("TMR203 ")));
+    EXPECT_THAT(linesWith("2 Q 2 1 Q 0"), ElementsAre(StartsWith("TMR226 ")));
+    EXPECT_THAT(linesWith("3 Q 6 Q 0"), ElementsAre(StartsWith("TMR301 "), StartsWith("TMR304 "),
+                                                    StartsWith("TMR304 "), StartsWith("TMR312 ")));
+}
+
+TEST(LostCases, DoNotExplainWhatIsWrongWithALoadItself)
+{
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"x G 1 G 0"})
+                                           .Elements({kNode, "8 2 0 0 0 0 0 0 1 0 0 y 2 1"})
+                                           .Text());
+    EXPECT_THAT(file.Lines(), ElementsAre(StartsWith("TMR203 10:"), StartsWith("TMR203 13:")));
+}
+
+TEST(LostCases, MayBeEndedByANul)
+{
+    std::string lost = "2 Q 1 Q 0";
+    lost[3] = '\0';
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"1 G 1 G 0", lost})
+                                           .Elements({kNode, "8 2 0 0 0 0 0 0 2 0 0 -1 2 1"})
+                                           .Text());
+    EXPECT_THAT(file.Codes(), ElementsAre("TMR114"));
+}
+
+TEST(LostCases, ExplainParametersThatAreNotRead)
+{
+    const CheckedFile file = CheckText(ModelText()
+                                           .Section("#Cas", {"1 G 1 G 0", "11 1.35 G 2 A 0"})
+                                           .Section("#TAB_PARAM_CAS", {"11 2 1 1 32767 0"})
+                                           .Elements({kNode})
+                                           .Text());
+    EXPECT_THAT(file.Codes(), ElementsAre("TMR203"));
+}
+
+TEST(FileFindings, ALineThatANulEndsDoesNotEndEarlyToo)
+{
+    std::string nul = kBar + "1 1 1 1 1 5";
+    nul[nul.size() - 2] = '\0';
+    const CheckedFile file = CheckText(WithTables().Elements({nul}).Text());
+    EXPECT_THAT(file.Lines(), ElementsAre(HasSubstr("bar 9: a NUL character ends the line")));
 }
 
 std::string RefusalOf(const CheckedFile& file)
@@ -249,8 +364,11 @@ TEST(Refusals, TellVersionsThatAreNotWellWrittenFromOldOnes)
     for (const char* old : {"9.9", "10", "10.0", "2.5"}) {
         EXPECT_THAT(codes(old), ElementsAre("TMR004")) << old;
     }
-    for (const char* odd : {"V12.1", " 12.1", "100.1", "012.1", ""}) {
+    for (const char* odd : {"V12.1", " 12.1", "100.1", "012.1"}) {
         EXPECT_THAT(codes(odd), ElementsAre("TMR003")) << odd;
+    }
+    for (const char* absent : {"", "  "}) {
+        EXPECT_THAT(codes(absent), ElementsAre("TMR012")) << absent;
     }
     for (const char* accepted : {"12,1", "9", "11"}) {
         EXPECT_THAT(codes(accepted), ElementsAre("TMR010")) << accepted;
