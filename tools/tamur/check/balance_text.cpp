@@ -64,7 +64,7 @@ void WriteKind(Table& table, const host::KindBalance& kind, std::string_view nou
                const Words& words)
 {
     std::ostream& row = table.Row(kind.lines, noun);
-    row << ": " << kind.records << ' ' << words.records;
+    row << ": " << words.records << ' ' << kind.records;
     for (const auto& [code, count] : kind.dropped) row << ", " << count << ' ' << IdOf(code);
     row << '\n';
 }
