@@ -70,7 +70,7 @@ class PropertyIndex {
         const std::uint64_t fingerprint = FingerprintOf(record);
         const auto place = static_cast<Index>(added_++);
         if (2 * known_ >= slots_.size()) Grow();
-        Slot& slot = SlotIn(slots_, fingerprint);
+        Slot& slot = slots_[SlotIn(slots_, fingerprint)];
         if (slot.place != kNone) return;
         slot = {fingerprint, place};
         ++known_;
@@ -80,7 +80,7 @@ class PropertyIndex {
     template <class PublicRecord>
     [[nodiscard]] Index Find(PublicRecord& record) const
     {
-        return SlotIn(slots_, FingerprintOf(record)).place;
+        return slots_[SlotIn(slots_, FingerprintOf(record))].place;
     }
 
  private:
@@ -98,21 +98,20 @@ class PropertyIndex {
     };
 
     // Where it is, or where it would be.
-    template <class Slots>
-    static auto& SlotIn(Slots& slots, std::uint64_t fingerprint)
+    static std::size_t SlotIn(const std::vector<Slot>& slots, std::uint64_t fingerprint)
     {
         const std::size_t mask = slots.size() - 1;
         std::size_t slot = (fingerprint ^ (fingerprint >> 32)) & mask;
         while (slots[slot].place != kNone && slots[slot].fingerprint != fingerprint) {
             slot = (slot + 1) & mask;
         }
-        return slots[slot];
+        return slot;
     }
     void Grow()
     {
         std::vector<Slot> larger(2 * slots_.size());
         for (const Slot& slot : slots_) {
-            if (slot.place != kNone) SlotIn(larger, slot.fingerprint) = slot;
+            if (slot.place != kNone) larger[SlotIn(larger, slot.fingerprint)] = slot;
         }
         slots_.swap(larger);
     }
