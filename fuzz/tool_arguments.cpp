@@ -1,5 +1,5 @@
 // Any bytes as the tool's arguments, one per line. The files that they may name are those that are
-// there: the tool only reads. It loads the component from its own folder, as its users have it.
+// there: the tool only reads.
 #include <cstdint>
 #include <cstdlib>
 #include <ostream>

@@ -34,6 +34,7 @@ ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
     const ComPtr<ITAMURStructureReader> reader = NewObservedReader(audit);
     const String name(FromUtf8(utf8Path).c_str());
     if (reader->Import(name.Get()) == E_OUTOFMEMORY) throw std::bad_alloc();
+    ForgetObserver(*reader.Get());
     audit.Finish(utf8Path);
     imported.refusal = audit.WhyRefused();
     if (!imported.refusal) imported.reader = reader;

@@ -14,4 +14,9 @@ ComPtr<ITAMURStructureReader> NewObservedReader(ImportObserver& observer)
     return reader;
 }
 
+void ForgetObserver(ITAMURStructureReader& reader)
+{
+    static_cast<CTAMURStructureReader&>(reader).ForgetObserver();
+}
+
 }  // namespace tamur

@@ -12,4 +12,8 @@ namespace tamur {
 // std::bad_alloc.
 [[nodiscard]] ComPtr<ITAMURStructureReader> NewObservedReader(ImportObserver& observer);
 
+// The reader, which NewObservedReader made, may outlive its observer from here on, further imports
+// included.
+void ForgetObserver(ITAMURStructureReader& reader);
+
 }  // namespace tamur

@@ -12,6 +12,7 @@ class CTAMURStructureReader : public AccessorGetters, public ISupportErrorInfo {
     CTAMURStructureReader() = default;
     // `observer` follows the imports and must outlive them.
     explicit CTAMURStructureReader(ImportObserver& observer) : observer_(&observer) {}
+    void ForgetObserver() { observer_ = nullptr; }
 
     IUnknown* FindInterface(REFIID riid);
 

@@ -259,5 +259,13 @@ TEST(LineWalk, StopsWhereTheImportStops)
     EXPECT_GT(compared, 200);
 }
 
+// Hosts keep the reader; the audit that followed its first import is gone by then.
+TEST(Observing, EndsWithTheImport)
+{
+    const CheckedFile file(SampleFile("hall"));
+    EXPECT_EQ(ImportText(*file.imported.reader, "#Version\n12.1\n"), E_FAIL);
+    EXPECT_EQ(ImportFile(*file.imported.reader, SampleFile("portique")), S_OK);
+}
+
 }  // namespace
 }  // namespace tamur::test

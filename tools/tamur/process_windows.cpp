@@ -38,13 +38,6 @@ std::vector<std::string> Arguments(int, char**)
     return arguments;
 }
 
-std::filesystem::path ExecutableFolder()
-{
-    std::wstring path(32768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return std::filesystem::path(path).parent_path();
-}
-
 void PrepareStreams()
 {
     SetConsoleOutputCP(CP_UTF8);

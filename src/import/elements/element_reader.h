@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <new>
 #include <type_traits>
 
 #include "import/elements/labels.h"
@@ -134,12 +133,12 @@ class ElementReader {
         if (count == 0) return polygon;
         const std::size_t most =
             std::min(static_cast<std::size_t>(count), MostValues(tokens_.Left()) / 3 + 1);
-        char* const room = model_.arena.Reserve(most * sizeof(Point));
-        Point* const corners = reinterpret_cast<Point*>(room);
+        Point* const corners = model_.arena.ReserveArray<Point>(most);
         for (; polygon.held < count && !tokens_.Failed(); ++polygon.held) {
-            ReadPoint(*::new (&corners[polygon.held]) Point());
+            corners[polygon.held] = Point();
+            ReadPoint(corners[polygon.held]);
         }
-        model_.arena.Commit(reinterpret_cast<const char*>(corners + polygon.held));
+        model_.arena.CommitArray(corners + polygon.held);
         if (polygon.held > 0) polygon.values = corners;
         return polygon;
     }

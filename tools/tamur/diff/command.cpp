@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <memory>
+#include <new>
 #include <stdexcept>
 
 #include "../exit_code.h"
@@ -32,6 +33,8 @@ Imported ImportWhole(const Options& options, const Input& input)
         return Import(options.component, input);
     } catch (const ImportRefused& refused) {
         throw std::runtime_error(refused.what());
+    } catch (const std::bad_alloc&) {
+        throw std::runtime_error(input.Name() + ": not enough memory");
     }
 }
 
