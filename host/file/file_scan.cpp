@@ -5,16 +5,10 @@
 
 #include "host/file/header_names.h"
 #include "host/file/texts.h"
+#include "import/scan/characters.h"
 
 namespace tamur::host {
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-bool IsBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 // Without its line end, and without what is after a NUL.
 std::string_view TextOfLine(std::string_view line)
@@ -58,7 +52,7 @@ void FileScan::Add(std::string_view piece)
 {
     hasReturn_ = hasReturn_ || piece.find('\r') != piece.npos;
     hasFeed_ = hasFeed_ || piece.find('\n') != piece.npos;
-    if (start_.empty()) start_ = piece.substr(0, kByteOrderMark.size());
+    if (start_.empty()) start_ = piece.substr(0, kUtf8Mark.size());
     while (!piece.empty()) {
         const std::size_t feed = piece.find('\n');
         const std::size_t size = feed == piece.npos ? piece.size() : feed + 1;

@@ -6,6 +6,9 @@
 #include <numeric>
 #include <vector>
 
+#include "host/file/texts.h"
+#include "import/scan/characters.h"
+
 namespace tamur::host {
 namespace {
 
@@ -20,17 +23,11 @@ constexpr Spelling kAccents[] = {
     {"\xC9", 'e'},     {"\x82", 'e'},     {"\x8A", 'e'},     {"\x90", 'e'},
 };
 
-bool IsBlank(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
 // The first word in lower case and without accents; blanks right after the "#" are passed over.
 std::string Folded(std::string_view line)
 {
     std::string folded;
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+    if (line.starts_with(kUtf8Mark)) line.remove_prefix(kUtf8Mark.size());
     while (!line.empty() && line[0] != '\0') {
         const auto accent = std::find_if(
             std::begin(kAccents), std::end(kAccents),

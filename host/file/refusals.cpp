@@ -14,9 +14,11 @@ Finding FindingOfMissing(SectionHeader header, const FileScan& scan, const FileT
     const std::string text(PlainTextOf(header));
     if (scan.IsUtf16()) return {.code = Code::kUtf16, .place = {.line = 1}};
     if (scan.HasOnlyReturns()) return {.code = Code::kOnlyReturns, .place = {.line = 1}};
-    const auto& near = scan.NearOf(header);
-    if (near && !(scan.HasByteOrderMark() && near->place.line == 1)) {
-        return {.code = Code::kSettingMisspelt, .place = near->place, .values = {near->text, text}};
+    const auto& nearHeader = scan.NearOf(header);
+    if (nearHeader && !(scan.HasByteOrderMark() && nearHeader->place.line == 1)) {
+        return {.code = Code::kSettingMisspelt,
+                .place = nearHeader->place,
+                .values = {nearHeader->text, text}};
     }
     if (scan.HasByteOrderMark()) return {.code = Code::kByteOrderMark, .place = {.line = 1}};
     if (tail.dataLines > 0) return TextAfterEnd(scan, tail);

@@ -6,6 +6,9 @@
 
 namespace tamur::host {
 
+// What editors write at the start of files that they keep as UTF-8.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 // The first characters of the text, enough of them to show; up to its first NUL.
 [[nodiscard]] std::string AnsiToUtf8(std::string_view text);
 

@@ -4,18 +4,14 @@
 #include <bit>
 #include <span>
 
+#include "host/structure/cells.h"
+
 namespace tamur::host {
 namespace {
 
-// So that what is drawn on round coordinates is not on the sides of cells.
-constexpr double kShift = 0.37;
-
-// As std::floor, which is a call where the processor may be an old one.
-std::int64_t CellOf(double coordinate, double factor)
+std::int64_t CellAt(double coordinate, double factor)
 {
-    const double place = coordinate * factor + kShift;
-    const auto cell = static_cast<std::int64_t>(place);
-    return cell - (place < static_cast<double>(cell) ? 1 : 0);
+    return CellOf(coordinate * factor + kCellShift);
 }
 
 }  // namespace
@@ -48,14 +44,14 @@ std::uint32_t PointGrid::SlotOf(std::int64_t x, std::int64_t y, std::int64_t z) 
 
 std::uint32_t PointGrid::SlotOf(Point point) const
 {
-    return SlotOf(CellOf(point.x, factor_), CellOf(point.y, factor_), CellOf(point.z, factor_));
+    return SlotOf(CellAt(point.x, factor_), CellAt(point.y, factor_), CellAt(point.z, factor_));
 }
 
 bool PointGrid::FindSlots(const Box& box, Slots& slots) const
 {
-    const std::int64_t x0 = CellOf(box.low.x, factor_), x1 = CellOf(box.high.x, factor_);
-    const std::int64_t y0 = CellOf(box.low.y, factor_), y1 = CellOf(box.high.y, factor_);
-    const std::int64_t z0 = CellOf(box.low.z, factor_), z1 = CellOf(box.high.z, factor_);
+    const std::int64_t x0 = CellAt(box.low.x, factor_), x1 = CellAt(box.high.x, factor_);
+    const std::int64_t y0 = CellAt(box.low.y, factor_), y1 = CellAt(box.high.y, factor_);
+    const std::int64_t z0 = CellAt(box.low.z, factor_), z1 = CellAt(box.high.z, factor_);
     // As real numbers, whose product cannot be too large.
     const double cells = static_cast<double>(x1 - x0 + 1) * static_cast<double>(y1 - y0 + 1) *
                          static_cast<double>(z1 - z0 + 1);

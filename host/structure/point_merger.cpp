@@ -3,21 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "host/structure/cells.h"
+#include "host/structure/index.h"
+
 namespace tamur::host {
 namespace {
 
-constexpr std::uint32_t kNone = ~std::uint32_t{0};
 constexpr double kCell = 8;  // in tolerances: few points are so near a cell's side that two count
-// So that what is drawn on round coordinates is not on the sides of cells.
-constexpr double kShift = 0.37;
 constexpr std::size_t kFirstSlots = 1024;
-
-// As std::floor, which is a call where the processor may be an old one.
-std::int64_t CellOf(double place)
-{
-    const auto cell = static_cast<std::int64_t>(place);
-    return cell - (place < static_cast<double>(cell) ? 1 : 0);
-}
 
 // Which cells hold what is within a tolerance, along one axis.
 struct Reach {
@@ -53,7 +46,7 @@ PointMerger::PointMerger(double tolerance, Point origin, std::size_t count)
 
 Point PointMerger::PlaceOf(Point point) const
 {
-    return (point - origin_) * factor_ + Point{kShift, kShift, kShift};
+    return (point - origin_) * factor_ + Point{kCellShift, kCellShift, kCellShift};
 }
 
 void PointMerger::SearchSlot(std::uint32_t hash, Point point, std::uint32_t& nearest,

@@ -12,14 +12,11 @@
 
 #include "host/kinds.h"
 #include "host/structure/geometry.h"
+#include "host/structure/index.h"
 
 struct ITAMURStructureReader;
 
 namespace tamur::host {
-
-// A place in a list: of points, of bars, ...
-using Index = std::uint32_t;
-inline constexpr Index kNone = ~Index{0};
 
 // Lists of different lengths, end to end.
 template <class Value>

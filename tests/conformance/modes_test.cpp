@@ -28,7 +28,7 @@ ComPtr<ITAMURStructureReader> WithLines(const std::vector<std::string>& lines)
     return Imported(LoadModel(kModalCase, lines));
 }
 
-Record<TMRModes> ModesOf(const std::vector<std::string>& lines)
+Record<TMRModes> ImportedModes(const std::vector<std::string>& lines)
 {
     return test::ModesOf(*WithLines(lines));
 }
@@ -63,13 +63,13 @@ TEST(Modes, StartAtHundredPercentBeforeAnyImport)
 
 TEST(Modes, FileWithoutAModalLineKeepsTheStartingValues)
 {
-    ExpectStartingValues(ModesOf({}));
-    ExpectStartingValues(ModesOf({"5 3"}));
+    ExpectStartingValues(ImportedModes({}));
+    ExpectStartingValues(ImportedModes({"5 3"}));
 }
 
 TEST(Modes, LineFillsEveryField)
 {
-    const auto modes = ModesOf({ModalLine(3, "0.05 0.06 0.07")});
+    const auto modes = ImportedModes({ModalLine(3, "0.05 0.06 0.07")});
     EXPECT_EQ(modes->iNrOfModes, 3);
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
     EXPECT_EQ(modes->iMassChoice, 2);
@@ -94,8 +94,9 @@ TEST(Modes, CodesBecomeSwitchesAndDampingsAreReadWhateverTheySay)
          {Switches{"1 mot 41 O mot", 1, 0, 1}, Switches{"0 mot 40 N mot", 0, 1, 0},
           Switches{"2 O 0 o O", 0, 1, 0}, Switches{"-1 41 -41 1 41", 0, 1, 0}}) {
         SCOPED_TRACE(expected.text);
-        const auto modes = ModesOf({std::string("5 3 2 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 ") +
-                                    expected.text + " 0.05 0.06"});
+        const auto modes =
+            ImportedModes({std::string("5 3 2 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 ") +
+                           expected.text + " 0.05 0.06"});
         EXPECT_EQ(modes->bComputeDampings, expected.computesDampings);
         EXPECT_EQ(modes->iCalculMethod, expected.method);
         EXPECT_EQ(modes->bResidualMode, expected.residualMode);
@@ -105,29 +106,30 @@ TEST(Modes, CodesBecomeSwitchesAndDampingsAreReadWhateverTheySay)
 
 TEST(Modes, CaseOfTheLineIsNotUsed)
 {
-    const auto modes = ModesOf({"99 3 0 10 20 30"});
+    const auto modes = ImportedModes({"99 3 0 10 20 30"});
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(10, 20, 30));
 }
 
 TEST(Modes, ValuesBeyondTheCountAreNotRead)
 {
-    EXPECT_THAT(DampingsOf(ModesOf({ModalLine(1, "0.05 0.06 0.07")})), ElementsAre(0.05));
-    const auto none = ModesOf({ModalLine(0, "0.05")});
+    EXPECT_THAT(DampingsOf(ImportedModes({ModalLine(1, "0.05 0.06 0.07")})), ElementsAre(0.05));
+    const auto none = ImportedModes({ModalLine(0, "0.05")});
     EXPECT_EQ(none->iNrOfModes, 0);
     EXPECT_NE(none->pDampingValues, nullptr);
 }
 
 TEST(Modes, ValuesThatTheLineDoesNotHoldAreZero)
 {
-    EXPECT_THAT(DampingsOf(ModesOf({ModalLine(4, "0.05 0.06")})), ElementsAre(0.05, 0.06, 0, 0));
-    EXPECT_THAT(DampingsOf(ModesOf({ModalLine(3, "0.05 x 0.06")})), ElementsAre(0.05, 0, 0));
-    EXPECT_THAT(DampingsOf(ModesOf({ModalLine(2, "1e999 0.06")})), ElementsAre(0, 0));
+    EXPECT_THAT(DampingsOf(ImportedModes({ModalLine(4, "0.05 0.06")})),
+                ElementsAre(0.05, 0.06, 0, 0));
+    EXPECT_THAT(DampingsOf(ImportedModes({ModalLine(3, "0.05 x 0.06")})), ElementsAre(0.05, 0, 0));
+    EXPECT_THAT(DampingsOf(ImportedModes({ModalLine(2, "1e999 0.06")})), ElementsAre(0, 0));
 }
 
 TEST(Modes, NegativeCountIsKeptAndHasNoValues)
 {
     for (const int count : {-1, -3, -2147483647 - 1}) {
-        const auto modes = ModesOf({ModalLine(count, "0.05")});
+        const auto modes = ImportedModes({ModalLine(count, "0.05")});
         EXPECT_EQ(modes->iNrOfModes, count);
         EXPECT_NE(modes->pDampingValues, nullptr);
         EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
@@ -137,11 +139,12 @@ TEST(Modes, NegativeCountIsKeptAndHasNoValues)
 
 TEST(Modes, CountBeyondTheLineIsKeptAndTheMissingValuesAreZero)
 {
-    const auto hundred = ModesOf({"2 3 100 90 90 90 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 x 41 N x"});
+    const auto hundred =
+        ImportedModes({"2 3 100 90 90 90 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 x 41 N x"});
     EXPECT_EQ(hundred->iNrOfModes, 100);
     EXPECT_THAT(DampingsOf(hundred), AllOf(SizeIs(100), Each(0.0)));
 
-    const auto most = ModesOf({ModalLine(49999, "0.05 0.06")});
+    const auto most = ImportedModes({ModalLine(49999, "0.05 0.06")});
     EXPECT_EQ(most->iNrOfModes, 49999);
     std::vector<double> expected(49999, 0.0);
     expected[0] = 0.05;
@@ -153,7 +156,7 @@ TEST(Modes, CountBeyondTheLineIsKeptAndTheMissingValuesAreZero)
 TEST(Modes, CountBeyondAnyLineIsNone)
 {
     for (const int count : {50000, 2000000000}) {
-        const auto modes = ModesOf({ModalLine(count, "0.05")});
+        const auto modes = ImportedModes({ModalLine(count, "0.05")});
         EXPECT_EQ(modes->iNrOfModes, 0);
         EXPECT_NE(modes->pDampingValues, nullptr);
         EXPECT_THAT(PercentagesOf(modes), ElementsAre(90, 91.5, 92));
@@ -165,8 +168,8 @@ TEST(Modes, SkippedWordsMayBeLong)
 {
     for (const std::size_t length : {255u, 256u, 5000u}) {
         const std::string word(length, 'w');
-        const auto modes = ModesOf({"5 3 1 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 " + word +
-                                    " 41 O " + word + " 0.05"});
+        const auto modes = ImportedModes({"5 3 1 1 1 1 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 " +
+                                          word + " 41 O " + word + " 0.05"});
         EXPECT_EQ(modes->iCalculMethod, 0) << length;
         EXPECT_EQ(modes->bResidualMode, 1) << length;
         EXPECT_THAT(DampingsOf(modes), ElementsAre(0.05)) << length;
@@ -175,12 +178,12 @@ TEST(Modes, SkippedWordsMayBeLong)
 
 TEST(Modes, CountBeyond32BitsEndsTheLine)
 {
-    ExpectStartingValues(ModesOf({"5 3 99999999999 90 91 92"}));
+    ExpectStartingValues(ImportedModes({"5 3 99999999999 90 91 92"}));
 }
 
 TEST(Modes, ShortLineLeavesTheRestAsItWas)
 {
-    const auto modes = ModesOf({"5 3 2 80 81"});
+    const auto modes = ImportedModes({"5 3 2 80 81"});
     EXPECT_EQ(modes->iNrOfModes, 2);
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(80, 81, 100));
     EXPECT_THAT(DampingsOf(modes), ElementsAre(0, 0));
@@ -191,7 +194,7 @@ TEST(Modes, ShortLineLeavesTheRestAsItWas)
 
 TEST(Modes, ShortLineMayEndInsideThePairs)
 {
-    const auto modes = ModesOf({"5 3 0 80 81 82 3 1 1.0 2"});
+    const auto modes = ImportedModes({"5 3 0 80 81 82 3 1 1.0 2"});
     EXPECT_EQ(modes->iMassChoice, 3);
     EXPECT_THAT(modes->pNumCas, ElementsAre(1, 2, 0, 0, 0, 0, 0, 0));
     EXPECT_THAT(modes->pCoeffCas, ElementsAre(1.0, 0, 0, 0, 0, 0, 0, 0));
@@ -199,7 +202,7 @@ TEST(Modes, ShortLineMayEndInsideThePairs)
 
 TEST(Modes, UnreadableColumnEndsTheLine)
 {
-    const auto modes = ModesOf({"5 3 0 80 x 82 3"});
+    const auto modes = ImportedModes({"5 3 0 80 x 82 3"});
     EXPECT_EQ(modes->dPercentX, 80);
     EXPECT_EQ(modes->dPercentZ, 100);
     EXPECT_EQ(modes->iMassChoice, 0);
@@ -207,7 +210,8 @@ TEST(Modes, UnreadableColumnEndsTheLine)
 
 TEST(Modes, SecondLineOverwritesTheFieldsAndEndsWithoutModes)
 {
-    const auto modes = ModesOf({ModalLine(2, "0.05 0.06"), ModalLine(3, "0.1 0.2 0.3", "1 2 3")});
+    const auto modes =
+        ImportedModes({ModalLine(2, "0.05 0.06"), ModalLine(3, "0.1 0.2 0.3", "1 2 3")});
     EXPECT_EQ(modes->iNrOfModes, 0);
     EXPECT_NE(modes->pDampingValues, nullptr);
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(1, 2, 3));
@@ -216,16 +220,18 @@ TEST(Modes, SecondLineOverwritesTheFieldsAndEndsWithoutModes)
 
 TEST(Modes, EveryFurtherLineEndsWithoutModes)
 {
-    const auto modes = ModesOf({ModalLine(1, "0.05"), ModalLine(1, "0.06"), ModalLine(1, "0.07")});
+    const auto modes =
+        ImportedModes({ModalLine(1, "0.05"), ModalLine(1, "0.06"), ModalLine(1, "0.07")});
     EXPECT_EQ(modes->iNrOfModes, 0);
-    EXPECT_EQ(ModesOf({ModalLine(1, "0.05"), ModalLine(0), ModalLine(2, "1 2")})->iNrOfModes, 0);
-    EXPECT_EQ(ModesOf({ModalLine(1, "0.05"), ModalLine(-1)})->iNrOfModes, 0);
+    EXPECT_EQ(ImportedModes({ModalLine(1, "0.05"), ModalLine(0), ModalLine(2, "1 2")})->iNrOfModes,
+              0);
+    EXPECT_EQ(ImportedModes({ModalLine(1, "0.05"), ModalLine(-1)})->iNrOfModes, 0);
 }
 
 TEST(Modes, SecondLineIsReadInFullWhenTheFirstMadeNoDampings)
 {
     for (const int first : {0, -1, 50000}) {
-        const auto modes = ModesOf({ModalLine(first), ModalLine(2, "0.05 0.06", "1 2 3")});
+        const auto modes = ImportedModes({ModalLine(first), ModalLine(2, "0.05 0.06", "1 2 3")});
         EXPECT_EQ(modes->iNrOfModes, 2) << first;
         EXPECT_THAT(PercentagesOf(modes), ElementsAre(1, 2, 3)) << first;
         EXPECT_THAT(DampingsOf(modes), ElementsAre(0.05, 0.06)) << first;
@@ -234,7 +240,7 @@ TEST(Modes, SecondLineIsReadInFullWhenTheFirstMadeNoDampings)
 
 TEST(Modes, ShortSecondLineLeavesTheRestAsItWas)
 {
-    const auto modes = ModesOf({ModalLine(2, "0.05 0.06"), "5 3 1 50"});
+    const auto modes = ImportedModes({ModalLine(2, "0.05 0.06"), "5 3 1 50"});
     EXPECT_EQ(modes->iNrOfModes, 0);
     EXPECT_THAT(PercentagesOf(modes), ElementsAre(50, 91.5, 92));
     EXPECT_EQ(modes->iMassChoice, 2);
@@ -247,7 +253,7 @@ TEST(Modes, LineWithoutModesLeavesRoomForTheNext)
 {
     for (const int none : {0, -1, 2000000000}) {
         SCOPED_TRACE(none);
-        EXPECT_THAT(DampingsOf(ModesOf({ModalLine(none), ModalLine(2, "0.05 0.06")})),
+        EXPECT_THAT(DampingsOf(ImportedModes({ModalLine(none), ModalLine(2, "0.05 0.06")})),
                     ElementsAre(0.05, 0.06));
     }
 }

@@ -115,7 +115,7 @@ TEST(Sections, LongShapeNameIsRewrittenWhole)
 
 // ------------------------------------------------------------------ outline
 
-struct Outline {
+struct ExpectedOutline {
     char code;
     int points;
     Reals coordinates;
@@ -123,7 +123,7 @@ struct Outline {
 };
 
 // The outline of a section whose line ends with those tokens, after the name and constants.
-void ExpectOutline(const std::string& tokens, const Outline& expected)
+void ExpectOutline(const std::string& tokens, const ExpectedOutline& expected)
 {
     SCOPED_TRACE(tokens);
     const auto section = SectionOf("P 1 2 3 4 5 6 7 8 9 10 11 " + tokens);

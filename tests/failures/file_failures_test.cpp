@@ -9,7 +9,7 @@
 namespace tamur::test {
 namespace {
 
-constexpr Failing kWays[] = {Failing::kOnce, Failing::kFromThereOn};
+constexpr Failing kFileWays[] = {Failing::kOnce, Failing::kFromThereOn};
 
 // Imports while `files` may fail; the reader goes before the files are counted.
 Outcome ImportThrough(FailingFiles& files, const std::filesystem::path& path)
@@ -90,7 +90,7 @@ TEST(FailingFiles, EveryReadMayFail)
         SCOPED_TRACE(seed.name);
         const TemporaryFile file(seed.text);
         const Outcome expected = ImportUndisturbed(file.Path());
-        for (const Failing how : kWays) {
+        for (const Failing how : kFileWays) {
             for (std::uint64_t read = 1;; read += kEvery) {
                 FailingFiles files(kPiece);
                 files.FailAt(FileCall::kRead, read, how);
@@ -112,7 +112,7 @@ TEST(FailingFiles, AFileThatCannotBeOpenedIsMissing)
     const TemporaryFile file(EveryTable().Text());
     const Outcome missing = ImportUndisturbed(file.Path().string() + "-none");
     for (const FileCall call : {FileCall::kOpen, FileCall::kAskForKind}) {
-        for (const Failing how : kWays) {
+        for (const Failing how : kFileWays) {
             FailingFiles files;
             files.FailAt(call, 1, how);
             EXPECT_TRUE(ImportThrough(files, file.Path()) == missing);

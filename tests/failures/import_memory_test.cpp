@@ -12,7 +12,7 @@
 namespace tamur::test {
 namespace {
 
-constexpr Failing kWays[] = {Failing::kOnce, Failing::kFromThereOn};
+constexpr Failing kImportWays[] = {Failing::kOnce, Failing::kFromThereOn};
 
 std::vector<LONG> NodesOf(ITAMURStructureReader& reader)
 {
@@ -77,7 +77,7 @@ std::uint64_t FailEveryAllocation(const std::string& text)
     (void)ImportFile(*fresh, file.Path());
     const std::vector<LONG> nodes = NodesOf(*fresh);
     int fromNothing = 0;
-    for (const Failing how : kWays) {
+    for (const Failing how : kImportWays) {
         for (std::uint64_t i = 1; i <= count; ++i) {
             const Attempt attempt = ImportFailing(file.Path(), i, how, nodes);
             EXPECT_TRUE(attempt.hasFailed) << i;
@@ -187,7 +187,7 @@ TEST(FailingMemory, AMissingFileThatCannotBeToldAboutIsOutOfMemory)
     ASSERT_EQ(ImportUndisturbed(missing).result, E_FAIL);
     const std::uint64_t count = CountAllocations(missing);
     ASSERT_GT(count, 0u);
-    for (const Failing how : kWays) {
+    for (const Failing how : kImportWays) {
         for (std::uint64_t i = 1; i <= count; ++i) {
             const Attempt attempt = ImportFailing(missing, i, how, {});
             EXPECT_EQ(attempt.outcome.result, E_OUTOFMEMORY) << i;

@@ -41,17 +41,17 @@ bool IsLarge(const char* begin, const char* end, char marker, int digitsPerExpon
     return place * digitsPerExponent + ExponentOf(at, end) > 0;
 }
 
-Range ToReal(const char* begin, const char* end, std::chars_format format, double& value)
+Magnitude ToReal(const char* begin, const char* end, std::chars_format format, double& value)
 {
     const auto result = std::from_chars(begin, end, value, format);
-    if (result.ec != std::errc::result_out_of_range) return Range::kNormal;
+    if (result.ec != std::errc::result_out_of_range) return Magnitude::kNormal;
     const bool isHexadecimal = format == std::chars_format::hex;
     if (IsLarge(begin, end, isHexadecimal ? 'p' : 'e', isHexadecimal ? 4 : 1)) {
         value = std::numeric_limits<double>::infinity();
-        return Range::kOverflow;
+        return Magnitude::kOverflow;
     }
     value = 0.0;
-    return Range::kUnderflow;
+    return Magnitude::kUnderflow;
 }
 
 }  // namespace
@@ -72,16 +72,16 @@ IntegerText ReadIntegerText(const char* at)
     return text;
 }
 
-Range DecimalToReal(const char* begin, const char* end, double& value)
+Magnitude DecimalToReal(const char* begin, const char* end, double& value)
 {
     const bool isNegative = *begin == '-';
     if (*begin == '-' || *begin == '+') ++begin;
-    const Range range = ToReal(begin, end, std::chars_format::general, value);
+    const Magnitude magnitude = ToReal(begin, end, std::chars_format::general, value);
     if (isNegative) value = -value;
-    return range;
+    return magnitude;
 }
 
-Range HexadecimalToReal(const char* begin, const char* end, double& value)
+Magnitude HexadecimalToReal(const char* begin, const char* end, double& value)
 {
     return ToReal(begin, end, std::chars_format::hex, value);
 }

@@ -15,13 +15,13 @@ struct IntegerText {
 [[nodiscard]] IntegerText ReadIntegerText(const char* at);
 
 // What converting a decimal number came to.
-enum class Range { kNormal, kOverflow, kUnderflow };
+enum class Magnitude { kNormal, kOverflow, kUnderflow };
 
 // Converts [begin, end): an optional sign, digits with at most one point, an optional complete
 // exponent. Rounds to nearest; gives an infinity for an overflow and a zero for an underflow.
-Range DecimalToReal(const char* begin, const char* end, double& value);
+Magnitude DecimalToReal(const char* begin, const char* end, double& value);
 
 // Converts hexadecimal digits with at most one point and an optional complete binary exponent.
-Range HexadecimalToReal(const char* begin, const char* end, double& value);
+Magnitude HexadecimalToReal(const char* begin, const char* end, double& value);
 
 }  // namespace tamur

@@ -69,7 +69,7 @@ void StreamScanner::ReadExactly(double& value)
     const char* const begin = SkipBlanks(at_);
     const char* const end = EndOfReal(begin);
     double number = 0;
-    if (end == nullptr || DecimalToReal(begin, end, number) == Range::kOverflow) {
+    if (end == nullptr || DecimalToReal(begin, end, number) == Magnitude::kOverflow) {
         GoOn(nullptr);
         return;
     }

@@ -8,37 +8,39 @@
 namespace tamur::tool {
 namespace {
 
-struct Words {
+struct BalanceWords {
     std::string_view lines, headers, empty, before, foreign, after, notRead, cut, other, records;
     std::string_view addsUp, doesNot;
 };
 
-const Words& WordsIn(host::Language language)
+const BalanceWords& BalanceWordsIn(host::Language language)
 {
-    static constexpr Words kEnglish = {"lines of the file",
-                                       "headers",
-                                       "empty lines",
-                                       "before the first section",
-                                       "in sections that are not read",
-                                       "after Ctrl-Z",
-                                       "of sections, not read",
-                                       "further lines, cut from too long ones",
-                                       "of no known kind",
-                                       "records",
-                                       "every line is accounted for",
-                                       "lines are unaccounted for: this is a defect of tamur"};
-    static constexpr Words kFrench = {"lignes du fichier",
-                                      "en-têtes",
-                                      "lignes vides",
-                                      "avant la première section",
-                                      "dans des sections non lues",
-                                      "après Ctrl-Z",
-                                      "non lues dans les sections",
-                                      "lignes de plus, coupées de lignes trop longues",
-                                      "d'un genre inconnu",
-                                      "enregistrements",
-                                      "chaque ligne a été comptée",
-                                      "des lignes ne sont pas comptées : c'est un défaut de tamur"};
+    static constexpr BalanceWords kEnglish = {
+        "lines of the file",
+        "headers",
+        "empty lines",
+        "before the first section",
+        "in sections that are not read",
+        "after Ctrl-Z",
+        "of sections, not read",
+        "further lines, cut from too long ones",
+        "of no known kind",
+        "records",
+        "every line is accounted for",
+        "lines are unaccounted for: this is a defect of tamur"};
+    static constexpr BalanceWords kFrench = {
+        "lignes du fichier",
+        "en-têtes",
+        "lignes vides",
+        "avant la première section",
+        "dans des sections non lues",
+        "après Ctrl-Z",
+        "non lues dans les sections",
+        "lignes de plus, coupées de lignes trop longues",
+        "d'un genre inconnu",
+        "enregistrements",
+        "chaque ligne a été comptée",
+        "des lignes ne sont pas comptées : c'est un défaut de tamur"};
     return language == host::Language::kFrench ? kFrench : kEnglish;
 }
 
@@ -61,7 +63,7 @@ class Table {
 };
 
 void WriteKind(Table& table, const host::KindBalance& kind, std::string_view noun,
-               const Words& words)
+               const BalanceWords& words)
 {
     std::ostream& row = table.Row(kind.lines, noun);
     row << ": " << words.records << ' ' << kind.records;
@@ -73,7 +75,7 @@ void WriteKind(Table& table, const host::KindBalance& kind, std::string_view nou
 
 void WriteBalance(const host::Balance& balance, host::Language language, std::ostream& out)
 {
-    const Words& words = WordsIn(language);
+    const BalanceWords& words = BalanceWordsIn(language);
     Table table(out);
     table.Row(balance.lines, words.lines) << '\n';
     table.RowIfAny(balance.cutRests, words.cut);

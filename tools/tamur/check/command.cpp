@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t kShownOfEach = 5;
 constexpr std::size_t kLongestError = 1000;
 
-struct Options {
+struct CheckOptions {
     std::vector<std::string> files;
     std::string format = "text";
     std::string colour = "auto";
@@ -47,14 +47,14 @@ bool HasColours(const std::string& colour, bool isTerminal)
     return isTerminal && (unwanted == nullptr || *unwanted == '\0');
 }
 
-Style StyleOf(const Options& options, const Console& console)
+Style StyleOf(const CheckOptions& options, const Console& console)
 {
     const auto language = host::ParseLanguage(options.language);
     return {.language = language ? *language : host::LanguageOfLocale(),
             .hasColours = HasColours(options.colour, console.isOutTerminal)};
 }
 
-int ExitCodeOf(const Options& options, const host::Findings& findings, bool wasImported)
+int ExitCodeOf(const CheckOptions& options, const host::Findings& findings, bool wasImported)
 {
     if (!wasImported) return exit_code::kTrouble;
     std::size_t counted =
@@ -63,7 +63,8 @@ int ExitCodeOf(const Options& options, const host::Findings& findings, bool wasI
     return counted != 0 && !options.exitsZero ? exit_code::kFound : exit_code::kFine;
 }
 
-int CheckOne(const Options& options, const Input& input, const Console& console, Report& report)
+int CheckOne(const CheckOptions& options, const Input& input, const Console& console,
+             Report& report)
 {
     host::Findings findings(options.showsAll ? host::Findings::kAll : kShownOfEach, options.filter);
     const host::Checked checked = [&] {
@@ -83,7 +84,7 @@ int CheckOne(const Options& options, const Input& input, const Console& console,
 }
 
 // Trouble with one file is no reason to lose what is said of the others.
-int TryToCheck(const Options& options, const std::string& file, const Console& console,
+int TryToCheck(const CheckOptions& options, const std::string& file, const Console& console,
                Report& report)
 {
     try {
@@ -96,7 +97,7 @@ int TryToCheck(const Options& options, const std::string& file, const Console& c
     }
 }
 
-int CheckAll(const Options& options, const Console& console)
+int CheckAll(const CheckOptions& options, const Console& console)
 {
     const auto report =
         MakeReport(FormatOf(options.format), StyleOf(options, console), console.out);
@@ -137,7 +138,7 @@ std::string NamesCodes(std::string& id)
 
 void AddCheckCommand(CLI::App& app, Task& task)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<CheckOptions>();
     CLI::App* const command =
         app.add_subcommand("check", "what is wrong with a file and the model in it, line by line");
     command->footer(

@@ -11,28 +11,28 @@ namespace {
 constexpr std::string_view kForceNames[] = {"Fx", "Fy", "Fz", "Mx", "My", "Mz"};
 constexpr std::string_view kMassNames[] = {"Mx", "My", "Mz", "Ix", "Iy", "Iz"};
 
-struct Words {
+struct SumsWords {
     std::string_view loadCase, global, local, projected, otherFrame, masses, lengths, areas;
 };
 
-const Words& WordsIn(host::Language language)
+const SumsWords& SumsWordsIn(host::Language language)
 {
-    static constexpr Words kEnglish = {"load case",
-                                       "global",
-                                       "local",
-                                       "projected",
-                                       "frame",
-                                       "masses",
-                                       "length of bars (m)",
-                                       "area of surfaces (m²), by thickness (m)"};
-    static constexpr Words kFrench = {"cas",
-                                      "global",
-                                      "local",
-                                      "projeté",
-                                      "repère",
-                                      "masses",
-                                      "longueur des filaires (m)",
-                                      "aire des surfaciques (m²), par épaisseur (m)"};
+    static constexpr SumsWords kEnglish = {"load case",
+                                           "global",
+                                           "local",
+                                           "projected",
+                                           "frame",
+                                           "masses",
+                                           "length of bars (m)",
+                                           "area of surfaces (m²), by thickness (m)"};
+    static constexpr SumsWords kFrench = {"cas",
+                                          "global",
+                                          "local",
+                                          "projeté",
+                                          "repère",
+                                          "masses",
+                                          "longueur des filaires (m)",
+                                          "aire des surfaciques (m²), par épaisseur (m)"};
     return language == host::Language::kFrench ? kFrench : kEnglish;
 }
 
@@ -45,7 +45,7 @@ void WriteValues(const host::Forces& values, const std::string_view (&names)[6],
     out << '\n';
 }
 
-std::string FrameName(int frame, const Words& words)
+std::string FrameName(int frame, const SumsWords& words)
 {
     switch (frame) {
         case 1: return std::string(words.global);
@@ -60,7 +60,7 @@ std::string FrameName(int frame, const Words& words)
 void WriteSums(const host::Sums& sums, const std::vector<std::string>& sections,
                host::Language language, std::ostream& out)
 {
-    const Words& words = WordsIn(language);
+    const SumsWords& words = SumsWordsIn(language);
     const auto before = out.precision(8);
     for (const host::CaseSum& loadCase : sums.cases) {
         for (const auto& [frame, forces] : loadCase.byFrame) {

@@ -16,7 +16,7 @@
 namespace tamur::tool {
 namespace {
 
-struct Options {
+struct DiffOptions {
     std::string component;
     std::string before;
     std::string after;
@@ -27,7 +27,7 @@ struct Options {
 };
 
 // A model that was not imported is not a different one.
-Imported ImportWhole(const Options& options, const Input& input)
+Imported ImportWhole(const DiffOptions& options, const Input& input)
 {
     try {
         return Import(options.component, input);
@@ -38,7 +38,7 @@ Imported ImportWhole(const Options& options, const Input& input)
     }
 }
 
-int Diff(const Options& options, const Console& console)
+int Diff(const DiffOptions& options, const Console& console)
 {
     const Input before(options.before, console.in), after(options.after, console.in);
     const Imported from = ImportWhole(options, before), to = ImportWhole(options, after);
@@ -59,7 +59,7 @@ int Diff(const Options& options, const Console& console)
 
 void AddDiffCommand(CLI::App& app, const std::string& component, Task& task)
 {
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<DiffOptions>();
     CLI::App* const diff = app.add_subcommand("diff", "what changed from one file to another");
     diff->footer("Exit codes: 0 the same; 1 different; 2 wrong usage, or a file was not imported.");
     diff->add_option("BEFORE", options->before, "the model file before")->required()->type_name("");

@@ -1,0 +1,9 @@
+# Several sources in one go: what they include is compiled once, and what they make of templates too.
+# So names in the unnamed namespaces of one target differ. Lint compiles one by one, and so tells when
+# a file does not include what it uses.
+option(TAMUR_BATCHES "Compile sources in batches" ON)
+
+function(compile_in_batches target)
+    set_target_properties(${target} PROPERTIES
+        UNITY_BUILD ${TAMUR_BATCHES} UNITY_BUILD_BATCH_SIZE 8)
+endfunction()
