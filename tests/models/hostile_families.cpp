@@ -200,7 +200,7 @@ const std::vector<HostileFamily>& HostileFamilies()
         {"loads of one case, refused", LoadsOfOneCaseRefused, 200000},
         {"loads of one case, refused one by one", LoadsRefusedOneByOne, 100000},
         {"loads of many cases, refused", LoadsOfManyCasesRefused, 50000},
-        {"loads of cases in random order", LoadsOfCasesInRandomOrder, 100000},
+        {"loads of cases in random order", LoadsOfCasesInRandomOrder, 100000, 3.2},
         {"minimal elements", MinimalElements, 50000},
         {"one huge outline, many bars", BarsWithOneHugeOutline, 200000},
         {"as many sections as bars", BarsOfAsManySections, 50000},

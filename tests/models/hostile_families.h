@@ -11,6 +11,9 @@ struct HostileFamily {
     // Builds the sections of a file of that size; the settings are before them.
     void (*write)(std::string& text, int size);
     int size;  // takes some tens of milliseconds
+    // At most this times the time for twice the size; more where what is looked up lies anywhere,
+    // and so in a slower memory when there is more of it.
+    double twiceTheSize = 2.2;
 };
 
 [[nodiscard]] const std::vector<HostileFamily>& HostileFamilies();
