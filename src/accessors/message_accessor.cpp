@@ -10,7 +10,7 @@ namespace {
 BSTR MakeText(const ImportMessage& message)
 {
     const WideString text = FormatPrompt(message.prompt, message.caseNumber);
-    const BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    BSTR made = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
     if (made == nullptr) platform::ThrowBadAlloc();
     return made;
 }
