@@ -67,7 +67,7 @@ class Arena {
     [[nodiscard]] T* ReserveArray(std::size_t most)
     {
         static_assert(std::is_trivially_copyable_v<T> && alignof(T) <= kAlignment);
-        return reinterpret_cast<T*>(Reserve(most * sizeof(T)));
+        return static_cast<T*>(static_cast<void*>(Reserve(most * sizeof(T))));
     }
     template <class T>
     void CommitArray(const T* end)

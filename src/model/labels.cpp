@@ -2,11 +2,10 @@
 
 namespace tamur {
 
-LabelPlaces::LabelPlaces(const Labels& labels, Arena& arena)
+LabelPlaces::LabelPlaces(const Labels& labels, Arena& arena) : counts_(labels.Counts())
 {
-    counts_ = labels.Counts();
-    if (counts_.held == 0) return;
     Text* const texts = arena.Array<Text>(counts_.held);
+    if (texts == nullptr) return;
     std::size_t i = 0;
     labels.ForEach([&](Text label) { texts[i++] = label; });
     texts_ = texts;
