@@ -82,12 +82,6 @@ std::optional<Frame> FrameOfAxis(const Segment& axis, const Point* orientation)
     return frame;
 }
 
-double AngleAsWritten(const TMRFilaire& bar)
-{
-    constexpr double kQuarter = 90;
-    return bar.StartSection.epureSec.Code == 0 ? bar.Angle : bar.Angle - kQuarter;
-}
-
 std::optional<Frame> FrameOfBar(const TMRFilaire& bar, const Point* orientation)
 {
     const Segment axis = {PointOf(bar.startPoint), PointOf(bar.endPoint)};

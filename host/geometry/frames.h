@@ -7,7 +7,7 @@
 #include <optional>
 #include <span>
 
-#include "host/structure/geometry.h"
+#include "host/structure/structure.h"
 
 namespace tamur::host {
 
@@ -38,9 +38,6 @@ inline constexpr double kVertical = 1e-3;
 // `orientation`, y to the left. Nothing when it has no length or a coordinate that cannot be meant.
 [[nodiscard]] std::optional<Frame> FrameOfAxis(const Segment& axis,
                                                const Point* orientation = nullptr);
-
-// The angle that the file wrote: the import turns bars with an outline by a quarter.
-[[nodiscard]] double AngleAsWritten(const TMRFilaire& bar);
 
 // The axes in which the outline of its section is drawn. `orientation` is where its orientation
 // node is, when it has one.

@@ -13,12 +13,12 @@ namespace tamur::host {
 // u is along y of the bar, v along z. The axis of the bar is at 0, 0 unless it has an offset.
 struct SectionOutline {
     enum class Source : std::uint8_t {
-        kNone,     // there is nothing that could be drawn
+        kNothing,  // there is nothing that could be drawn
         kPoints,   // of the file
         kCircle,   // the file's, as a polygon
         kStandIn,  // a rectangle with the area and inertias of a section without an outline
     };
-    Source source = Source::kNone;
+    Source source = Source::kNothing;
     std::vector<PlanePoint> points;  // counter-clockwise as seen against x; none twice in a row
 };
 

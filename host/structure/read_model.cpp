@@ -221,6 +221,7 @@ void ModelReader::ReadBars()
         bar.releasedAtStart = record.StartConnection.Rotules;
         bar.releasedAtEnd = record.EndConnection.Rotules;
         bar.orientationNode = IdentifierOf(record.OrientationNode);
+        bar.angle = AngleAsWritten(record);
         structure_.bars.push_back(bar);
     });
 }
@@ -288,6 +289,7 @@ Support ModelReader::ReadSupport(Kind kind, Index rank, const PublicRecord& reco
     support.condition = ConditionOf(record.ElementType);
     support.group = record.GroupNumber;
     std::copy(std::begin(record.Raideurs), std::end(record.Raideurs), support.stiffness.begin());
+    if constexpr (requires { record.Angle; }) support.angle = record.Angle;
     return support;
 }
 
@@ -430,6 +432,12 @@ void ModelReader::MergePoints()
 }
 
 }  // namespace
+
+double AngleAsWritten(const TMRFilaire& bar)
+{
+    constexpr double kQuarter = 90;
+    return bar.StartSection.epureSec.Code == 0 ? bar.Angle : bar.Angle - kQuarter;
+}
 
 Structure ReadModel(ITAMURStructureReader& reader)
 {

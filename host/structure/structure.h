@@ -14,6 +14,7 @@
 #include "host/structure/geometry.h"
 
 struct ITAMURStructureReader;
+struct TMRFilaire;
 
 namespace tamur::host {
 
@@ -58,6 +59,7 @@ struct Bar : Element {
     Index startRelease = kNone, endRelease = kNone;
     std::uint8_t releasedAtStart = 0, releasedAtEnd = 0;  // bits of Attache_type
     std::int64_t orientationNode = 0;
+    double angle = 0;  // as the file writes it: without the quarter turn of the import
 
     // Works along its axis only, and neither bends nor turns what it meets.
     [[nodiscard]] bool IsTruss() const
@@ -87,6 +89,7 @@ struct Support : Element {
     SupportCondition condition = SupportCondition::kVoid;
     int group = 0;
     std::array<double, 6> stiffness = {};
+    double angle = 0;  // points and lines only
     std::int64_t orientationNode = 0;
 };
 
@@ -209,6 +212,9 @@ struct Structure {
         return partOf[corners[member.firstCorner]];
     }
 };
+
+// The angle of a bar that the file wrote: the import turns those with an outline by a quarter.
+[[nodiscard]] double AngleAsWritten(const TMRFilaire& bar);
 
 // Takes time in proportion to the model, or to it times a logarithm. Throws ComponentError.
 [[nodiscard]] Structure ReadStructure(ITAMURStructureReader& reader);

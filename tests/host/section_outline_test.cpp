@@ -69,13 +69,13 @@ TEST(OutlineOfASection, IsARectangleWhereTheFileHasNone)
 TEST(OutlineOfASection, IsNothingWithoutAreaAndInertias)
 {
     TMRSectionGeometry section = {};
-    EXPECT_EQ(OutlineOfSection(section).source, Source::kNone);
+    EXPECT_EQ(OutlineOfSection(section).source, Source::kNothing);
     section.Sx = 1;
     section.Iy = -1;
     section.Iz = 1;
-    EXPECT_EQ(OutlineOfSection(section).source, Source::kNone);
+    EXPECT_EQ(OutlineOfSection(section).source, Source::kNothing);
     section.Iy = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(OutlineOfSection(section).source, Source::kNone);
+    EXPECT_EQ(OutlineOfSection(section).source, Source::kNothing);
 }
 
 TEST(OffsetOfAnOutline, PutsTheNamedPlaceOnTheAxis)
