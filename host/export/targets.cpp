@@ -4,13 +4,26 @@
 namespace tamur::host {
 namespace {
 
+// Not every build has the library that writes workbooks.
+#ifdef TAMUR_HAS_WORKBOOKS
+constexpr auto kWriteXlsx = WriteXlsx;
+#else
+constexpr auto kWriteXlsx = nullptr;
+#endif
+
 constexpr Target kTargets[] = {
     {"csv",
      {"-csv", ".csv"},
-     {{"a folder with a file for each table", "un dossier avec un fichier par table"}},
+     {"a folder with a file for each table", "un dossier avec un fichier par table"},
      ".csv",
      Need::kFindings,
      WriteCsv},
+    {"xlsx",
+     {".xlsx"},
+     {"a workbook with a sheet for each table", "un classeur avec une feuille par table"},
+     "",
+     Need::kFindings,
+     kWriteXlsx},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)
