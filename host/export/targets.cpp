@@ -4,13 +4,6 @@
 namespace tamur::host {
 namespace {
 
-// Not every build has the library that writes workbooks.
-#ifdef TAMUR_HAS_WORKBOOKS
-constexpr auto kWriteXlsx = WriteXlsx;
-#else
-constexpr auto kWriteXlsx = nullptr;
-#endif
-
 constexpr Target kTargets[] = {
     {"csv",
      {"-csv", ".csv"},
@@ -23,7 +16,7 @@ constexpr Target kTargets[] = {
      {"a workbook with a sheet for each table", "un classeur avec une feuille par table"},
      "",
      Need::kFindings,
-     kWriteXlsx},
+     WriteXlsx},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)
