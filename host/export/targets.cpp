@@ -7,10 +7,16 @@ namespace {
 constexpr Target kTargets[] = {
     {"csv",
      {"-csv", ".csv"},
-     {{"a folder with a file for each table", "un dossier avec un fichier par table"}},
+     {"a folder with a file for each table", "un dossier avec un fichier par table"},
      ".csv",
      Need::kFindings,
      WriteCsv},
+    {"xlsx",
+     {".xlsx"},
+     {"a workbook with a sheet for each table", "un classeur avec une feuille par table"},
+     "",
+     Need::kFindings,
+     WriteXlsx},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)

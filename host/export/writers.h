@@ -7,5 +7,7 @@ namespace tamur::host {
 
 void WriteCsv(const Source& source, const std::filesystem::path& path, Output& output,
               ExportReport& report);
+void WriteXlsx(const Source& source, const std::filesystem::path& path, Output& output,
+               ExportReport& report);
 
 }  // namespace tamur::host
