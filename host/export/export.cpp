@@ -1,6 +1,7 @@
 #include "host/export/export.h"
 
 #include "host/rules/check_model.h"
+#include "host/structure/contacts.h"
 #include "host/structure/read_model.h"
 
 namespace tamur::host {
@@ -18,7 +19,8 @@ void ExportModel(const std::string& name, const ImportedFile& file, Findings& fi
     Output output(options.mayReplace);
     ITAMURStructureReader& reader = *file.reader;
     const bool needsContacts = target.need != Need::kPoints || !options.wanted.groups.empty();
-    const Structure structure = needsContacts ? ReadStructure(reader) : ReadModel(reader);
+    Structure structure = needsContacts ? ReadStructure(reader) : ReadModel(reader);
+    if (!needsContacts) FindSurfacesOfOpenings(structure);
     const LoadCases cases = ReadLoadCases(reader);
     if (target.need == Need::kFindings) CheckModel(structure, cases, file.lines, findings);
     const Selection selection(structure, cases, options.wanted);

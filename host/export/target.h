@@ -35,7 +35,7 @@ struct ExportReport {
 
 // How much must be known of a model: each costs more time and memory than the one before it.
 enum class Need {
-    kPoints,    // ReadModel: elements and merged points
+    kPoints,    // ReadModel: elements and merged points; and the surfaces of openings
     kContacts,  // ReadStructure: what touches what
     kFindings,  // CheckModel too
 };

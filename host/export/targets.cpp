@@ -17,6 +17,19 @@ constexpr Target kTargets[] = {
      "",
      Need::kFindings,
      WriteXlsx},
+    {"vtu",
+     {".vtu"},
+     {"one grid with everything, for ParaView", "une grille avec tout, pour ParaView"},
+     "",
+     Need::kPoints,
+     WriteVtu},
+    {"vtm",
+     {".vtm"},
+     {"a grid for each kind of elements and each case, for ParaView",
+      "une grille par genre d'élément et par cas, pour ParaView"},
+     "",
+     Need::kPoints,
+     WriteVtm},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)

@@ -10,4 +10,9 @@ void WriteCsv(const Source& source, const std::filesystem::path& path, Output& o
 void WriteXlsx(const Source& source, const std::filesystem::path& path, Output& output,
                ExportReport& report);
 
+void WriteVtu(const Source& source, const std::filesystem::path& path, Output& output,
+              ExportReport& report);
+void WriteVtm(const Source& source, const std::filesystem::path& path, Output& output,
+              ExportReport& report);
+
 }  // namespace tamur::host

@@ -46,6 +46,21 @@ BarType BarTypeOf(BSTR name)
     return BarType::kOther;
 }
 
+SurfaceType SurfaceTypeOf(BSTR name)
+{
+    constexpr std::pair<std::string_view, SurfaceType> kNames[] = {
+        {"Coque", SurfaceType::kCoque},        {"Plaque", SurfaceType::kPlaque},
+        {"Membrane", SurfaceType::kMembrane},  {"Coque E", SurfaceType::kCoqueE},
+        {"Plaque E", SurfaceType::kPlaqueE},   {"Axisym", SurfaceType::kAxisym},
+        {"Déf Plane", SurfaceType::kDefPlane},
+    };
+    const std::string text = ToUtf8(ViewOf(name));
+    for (const auto& [known, type] : kNames) {
+        if (text == known) return type;
+    }
+    return SurfaceType::kOther;
+}
+
 // By the end of "Appui ponctuel rigide" and its like.
 SupportCondition ConditionOf(BSTR name)
 {
@@ -246,6 +261,7 @@ void ModelReader::ReadSurfaces()
     ForEach<TMRSurfacique>([this](TMRSurfacique& record, Index rank) {
         Surface surface = ReadPolygon(Kind::kSurface, rank, record.identifier, record.Surface);
         surface.group = record.GroupNumber;
+        surface.type = SurfaceTypeOf(record.ElementType);
         surface.thickness = record.Thickness;
         surface.material = materials_.Find(record.SurfaciqueMaterial);
         structure_.surfaces.push_back(surface);

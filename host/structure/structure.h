@@ -68,13 +68,25 @@ struct Bar : Element {
     }
 };
 
+enum class SurfaceType : std::uint8_t {
+    kOther,
+    kMembrane,
+    kPlaque,
+    kCoque,
+    kPlaqueE,
+    kCoqueE,
+    kDefPlane,
+    kAxisym,
+};
+
 struct Surface : Element {
     Plane plane;
     double area = 0;  // without regard to openings
     double perimeter = 0;
     double outOfPlane = 0;
     bool isConvex = false;
-    int group = 0;  // surfaces only, as are the next two
+    int group = 0;  // surfaces only, as are the next three
+    SurfaceType type = SurfaceType::kOther;
     double thickness = 0;
     Index material = kNone;
     Index surface = kNone;  // openings only: the surface that they belong to
