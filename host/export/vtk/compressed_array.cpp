@@ -60,9 +60,19 @@ void CompressedArray::Write(std::span<const std::byte> bytes)
 void CompressedArray::WriteZeros(std::uint64_t count)
 {
     static constexpr std::byte kZeros[4096] = {};
-    for (; count > 0; count -= std::min<std::uint64_t>(count, sizeof kZeros)) {
-        Write(std::span(kZeros).first(std::min<std::uint64_t>(count, sizeof kZeros)));
+    const auto writeSome = [&](std::uint64_t most) {
+        const std::uint64_t some = std::min<std::uint64_t>({most, count, sizeof kZeros});
+        Write(std::span(kZeros).first(some));
+        count -= some;
+    };
+    while (count > 0 && pending_.size() % kBlock != 0) writeSome(kBlock - pending_.size() % kBlock);
+    if (count >= kBlock) {
+        // Whole blocks are all alike.
+        Flush();
+        static const std::vector<std::byte> kZeroBlock = Compressed(std::vector<std::byte>(kBlock));
+        for (; count >= kBlock; count -= kBlock) Put(kZeroBlock);
     }
+    while (count > 0) writeSome(count);
 }
 
 void CompressedArray::Flush()
@@ -74,14 +84,16 @@ void CompressedArray::Flush()
     for (std::size_t start = kBlock; start < pending_.size(); start += kBlock) {
         others.push_back(std::async(std::launch::async, Compressed, block(start)));
     }
-    const auto write = [this](const std::vector<std::byte>& compressed) {
-        header_.push_back(compressed.size());
-        out_.write(reinterpret_cast<const char*>(compressed.data()),
-                   static_cast<std::streamsize>(compressed.size()));
-    };
-    if (!pending_.empty()) write(Compressed(block(0)));
-    for (auto& other : others) write(other.get());
+    if (!pending_.empty()) Put(Compressed(block(0)));
+    for (auto& other : others) Put(other.get());
     pending_.clear();
+}
+
+void CompressedArray::Put(const std::vector<std::byte>& compressed)
+{
+    header_.push_back(compressed.size());
+    out_.write(reinterpret_cast<const char*>(compressed.data()),
+               static_cast<std::streamsize>(compressed.size()));
 }
 
 void CompressedArray::End(std::streampos begin, unsigned rest)

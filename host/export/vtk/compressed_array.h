@@ -22,6 +22,7 @@ class CompressedArray {
 
  private:
     void Flush();
+    void Put(const std::vector<std::byte>& compressed);
 
     std::ostream& out_;
     std::streampos start_;
