@@ -1,4 +1,4 @@
-// What loads act on, and which surfaces openings belong to.
+// What loads act on.
 #include <algorithm>
 #include <optional>
 
@@ -119,29 +119,6 @@ class CarrierFinder {
 void FindCarriers(Structure& structure)
 {
     CarrierFinder(structure).Find();
-}
-
-void FindSurfacesOfOpenings(Structure& structure)
-{
-    Budget budget = BudgetFor(structure.corners.size());
-    for (Surface& opening : structure.openings) {
-        if (!opening.isUsable || opening.cornerCount == 0) continue;
-        const auto corners = structure.CornersOf(opening);
-        for (const Member& member : structure.membersAt[corners[0]]) {
-            if (member.kind != Kind::kSurface) continue;
-            const Surface& surface = structure.surfaces[member.index];
-            const bool isIn = std::all_of(corners.begin(), corners.end(), [&](Index corner) {
-                const auto members = structure.membersAt[corner];
-                return budget.Spend(members.size()) &&
-                       std::find(members.begin(), members.end(), member) != members.end();
-            });
-            const auto order = [](const Surface& of) { return std::pair(of.area, of.identifier); };
-            const bool isBetter = opening.surface == kNone ||
-                                  order(surface) < order(structure.surfaces[opening.surface]);
-            if (isIn && isBetter) opening.surface = member.index;
-        }
-    }
-    if (budget.IsSpent()) structure.isComplete = false;
 }
 
 }  // namespace tamur::host

@@ -22,7 +22,7 @@ void FindParts(Structure& structure);
 // Fills Structure::carriers and carried.
 void FindCarriers(Structure& structure);
 
-// Sets Surface::surface of the openings.
+// Sets Surface::surface of the openings. Needs no other of these steps.
 void FindSurfacesOfOpenings(Structure& structure);
 
 }  // namespace tamur::host

@@ -46,6 +46,21 @@ BarType BarTypeOf(BSTR name)
     return BarType::kOther;
 }
 
+SurfaceType SurfaceTypeOf(BSTR name)
+{
+    constexpr std::pair<std::string_view, SurfaceType> kNames[] = {
+        {"Coque", SurfaceType::kCoque},        {"Plaque", SurfaceType::kPlaque},
+        {"Membrane", SurfaceType::kMembrane},  {"Coque E", SurfaceType::kCoqueE},
+        {"Plaque E", SurfaceType::kPlaqueE},   {"Axisym", SurfaceType::kAxisym},
+        {"Déf Plane", SurfaceType::kDefPlane},
+    };
+    const std::string text = ToUtf8(ViewOf(name));
+    for (const auto& [known, type] : kNames) {
+        if (text == known) return type;
+    }
+    return SurfaceType::kOther;
+}
+
 // By the end of "Appui ponctuel rigide" and its like.
 SupportCondition ConditionOf(BSTR name)
 {
@@ -221,6 +236,7 @@ void ModelReader::ReadBars()
         bar.releasedAtStart = record.StartConnection.Rotules;
         bar.releasedAtEnd = record.EndConnection.Rotules;
         bar.orientationNode = IdentifierOf(record.OrientationNode);
+        bar.angle = AngleAsWritten(record);
         structure_.bars.push_back(bar);
     });
 }
@@ -245,6 +261,7 @@ void ModelReader::ReadSurfaces()
     ForEach<TMRSurfacique>([this](TMRSurfacique& record, Index rank) {
         Surface surface = ReadPolygon(Kind::kSurface, rank, record.identifier, record.Surface);
         surface.group = record.GroupNumber;
+        surface.type = SurfaceTypeOf(record.ElementType);
         surface.thickness = record.Thickness;
         surface.material = materials_.Find(record.SurfaciqueMaterial);
         structure_.surfaces.push_back(surface);
@@ -288,6 +305,7 @@ Support ModelReader::ReadSupport(Kind kind, Index rank, const PublicRecord& reco
     support.condition = ConditionOf(record.ElementType);
     support.group = record.GroupNumber;
     std::copy(std::begin(record.Raideurs), std::end(record.Raideurs), support.stiffness.begin());
+    if constexpr (requires { record.Angle; }) support.angle = record.Angle;
     return support;
 }
 
@@ -430,6 +448,12 @@ void ModelReader::MergePoints()
 }
 
 }  // namespace
+
+double AngleAsWritten(const TMRFilaire& bar)
+{
+    constexpr double kQuarter = 90;
+    return bar.StartSection.epureSec.Code == 0 ? bar.Angle : bar.Angle - kQuarter;
+}
 
 Structure ReadModel(ITAMURStructureReader& reader)
 {

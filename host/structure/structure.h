@@ -15,6 +15,7 @@
 #include "host/structure/index.h"
 
 struct ITAMURStructureReader;
+struct TMRFilaire;
 
 namespace tamur::host {
 
@@ -55,6 +56,7 @@ struct Bar : Element {
     Index startRelease = kNone, endRelease = kNone;
     std::uint8_t releasedAtStart = 0, releasedAtEnd = 0;  // bits of Attache_type
     std::int64_t orientationNode = 0;
+    double angle = 0;  // as the file writes it: without the quarter turn of the import
 
     // Works along its axis only, and neither bends nor turns what it meets.
     [[nodiscard]] bool IsTruss() const
@@ -63,13 +65,25 @@ struct Bar : Element {
     }
 };
 
+enum class SurfaceType : std::uint8_t {
+    kOther,
+    kMembrane,
+    kPlaque,
+    kCoque,
+    kPlaqueE,
+    kCoqueE,
+    kDefPlane,
+    kAxisym,
+};
+
 struct Surface : Element {
     Plane plane;
     double area = 0;  // without regard to openings
     double perimeter = 0;
     double outOfPlane = 0;
     bool isConvex = false;
-    int group = 0;  // surfaces only, as are the next two
+    int group = 0;  // surfaces only, as are the next three
+    SurfaceType type = SurfaceType::kOther;
     double thickness = 0;
     Index material = kNone;
     Index surface = kNone;  // openings only: the surface that they belong to
@@ -84,6 +98,7 @@ struct Support : Element {
     SupportCondition condition = SupportCondition::kVoid;
     int group = 0;
     std::array<double, 6> stiffness = {};
+    double angle = 0;  // points and lines only
     std::int64_t orientationNode = 0;
 };
 
@@ -206,6 +221,9 @@ struct Structure {
         return partOf[corners[member.firstCorner]];
     }
 };
+
+// The angle of a bar that the file wrote: the import turns those with an outline by a quarter.
+[[nodiscard]] double AngleAsWritten(const TMRFilaire& bar);
 
 // Takes time in proportion to the model, or to it times a logarithm. Throws ComponentError.
 [[nodiscard]] Structure ReadStructure(ITAMURStructureReader& reader);

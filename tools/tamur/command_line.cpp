@@ -13,6 +13,7 @@
 #include "diff/command.h"
 #include "dump.h"
 #include "exit_code.h"
+#include "export/command.h"
 #include "host/findings/plain_text.h"
 #include "import.h"
 #include "info.h"
@@ -83,6 +84,7 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
     AddShowCommand(app, task, options, "dump", "every record as JSON, one per line", Dump)
         ->add_flag("--pretty", options->isPretty, "one value per line");
     AddDiffCommand(app, options->component, task);
+    AddExportCommand(app, task);
 
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end

@@ -10,9 +10,9 @@
 #include "../exit_code.h"
 #include "../import.h"
 #include "../input.h"
+#include "../progress.h"
 #include "host/check.h"
 #include "host/findings/plain_text.h"
-#include "progress.h"
 #include "report.h"
 
 namespace tamur::tool {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <ostream>
 #include <string>
@@ -9,11 +10,12 @@
 
 namespace tamur::tool {
 
-// While it lives, a line says after the first second what is being done and for how long; it is
-// wiped away at the end. Silent where nobody looks.
+// While it lives, a line says after the first second what is being done, for how long, and, where
+// `percent` tells, how far it is; it is wiped away at the end. Silent where nobody looks.
 class Progress {
  public:
-    Progress(std::ostream& terminal, bool isTerminal, std::string what);
+    Progress(std::ostream& terminal, bool isTerminal, const std::string& what,
+             std::function<int()> percent = {});
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress();
@@ -21,6 +23,7 @@ class Progress {
  private:
     void Show(std::ostream& terminal, const std::string& what);
 
+    std::function<int()> percent_;
     std::mutex mutex_;
     std::condition_variable ended_;
     bool hasEnded_ = false;

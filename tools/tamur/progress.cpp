@@ -1,13 +1,19 @@
 #include "progress.h"
 
 #include <chrono>
+#include <utility>
+
+#include "host/findings/plain_text.h"
 
 namespace tamur::tool {
 
-Progress::Progress(std::ostream& terminal, bool isTerminal, std::string what)
+Progress::Progress(std::ostream& terminal, bool isTerminal, const std::string& what,
+                   std::function<int()> percent)
+    : percent_(std::move(percent))
 {
     if (!isTerminal) return;
-    thread_ = std::thread([this, &terminal, what = std::move(what)] { Show(terminal, what); });
+    thread_ =
+        std::thread([this, &terminal, plain = host::PlainText(what)] { Show(terminal, plain); });
 }
 
 Progress::~Progress()
@@ -27,7 +33,9 @@ void Progress::Show(std::ostream& terminal, const std::string& what)
     std::unique_lock lock(mutex_);
     int seconds = 0;
     while (!ended_.wait_for(lock, std::chrono::seconds(1), [this] { return hasEnded_; })) {
-        terminal << kWipe << what << " (" << ++seconds << " s)" << std::flush;
+        terminal << kWipe << what << " (" << ++seconds << " s";
+        if (percent_) terminal << ", " << percent_() << " %";
+        terminal << ')' << std::flush;
     }
     if (seconds != 0) terminal << kWipe << std::flush;
 }
