@@ -24,13 +24,17 @@ enum class SectionHeader {
     kCaseParameters,
     kElements,
     kElementsAccented,
+    kCount,
 };
 
-inline constexpr std::array<std::string_view, 15> kSectionHeaders = {
+inline constexpr std::size_t kSectionHeaderCount = static_cast<std::size_t>(SectionHeader::kCount);
+
+inline constexpr std::array<std::string_view, kSectionHeaderCount> kSectionHeaders = {
     "#Version",  "#SP",        "#Espace",        "#Tolerance",  "#Rigide",
     "#Groupes",  "#Materiaux", "#Mat\x82riaux",  "#Geometries", "#G\x82om\x82tries",
     "#Attaches", "#Cas",       "#TAB_PARAM_CAS", "#Elements",   "#El\x82ments",
 };
+static_assert(!kSectionHeaders.back().empty(), "a header has no text");
 
 constexpr std::string_view TextOf(SectionHeader header)
 {
