@@ -53,7 +53,8 @@ def exported(kinds):
 
 def _models(folder, kinds):
     for dump in sorted(folder.glob('*.json')):
-        path = {kind: dump.with_suffix('.' + kind) for kind in kinds}
+        path = {kind: dump.with_suffix('.' + kind + ('.xlsx' if kind == 'saf' else ''))
+                for kind in kinds}
         with open(dump, encoding='utf-8') as file:
             yield dump.with_suffix('.txt'), json.load(file), path
 
