@@ -54,9 +54,6 @@ class Bars {
           records_(Records<TMRFilaire>(model.source.reader)),
           sections_(model)
     {
-        for (const Element& node : structure_.nodes) {
-            if (node.isUsable) nodes_.try_emplace(node.identifier, node.firstCorner);
-        }
     }
 
     void Write()
@@ -96,7 +93,7 @@ class Bars {
         row.Text(InnerNodesOf(place)).Number(bar.length).Text("Line").Text("z by vector");
         row.Number(AngleAsWritten(*record)).Point(frame->z);
         row.Text(SystemLineOf(record->Excentration));
-        row.Number(0).Number(0).Number(0).Number(0).Text(LayerOf(model_, 2, bar.group));
+        row.Number(0).Number(0).Number(0).Number(0).Text(model_.LayerOf(2, bar.group));
         row.Text(bar.type == BarType::kTirant  ? "Tension only"
                  : bar.type == BarType::kBarre ? "Axial force only"
                                                : "Standard");
@@ -110,9 +107,7 @@ class Bars {
     {
         const Segment axis = {{record.startPoint.x, record.startPoint.y, record.startPoint.z},
                               {record.endPoint.x, record.endPoint.y, record.endPoint.z}};
-        const auto node = nodes_.find(bar.orientationNode);
-        if (bar.orientationNode == 0 || node == nodes_.end()) return FrameOfAxis(axis);
-        return FrameOfAxis(axis, &structure_.points[structure_.corners[node->second]]);
+        return FrameOfAxis(axis, model_.NodeAt(bar.orientationNode));
     }
 
     void CountLosses(const Bar& bar, const TMRFilaire& record)
@@ -168,7 +163,6 @@ class Bars {
     CrossSections sections_;
     Names names_, hingeNames_;
     std::size_t hingeCount_ = 0;
-    std::map<std::int64_t, Index> nodes_;  // first corners by identifiers
 };
 
 }  // namespace

@@ -70,9 +70,6 @@ class GroupLoads {
                 members_[{kOfSurfaces, structure_.surfaces[i].group}].push_back(i);
             }
         }
-        model_.rowsLeft =
-            kRowsAtLeast + kRowsOfEach * (structure_.bars.size() + structure_.surfaces.size() +
-                                          structure_.groupLoads.size());
     }
 
     void Write()
@@ -83,8 +80,6 @@ class GroupLoads {
     }
 
  private:
-    static constexpr std::size_t kRowsAtLeast = 10000, kRowsOfEach = 50;
-
     void Lose(const LossText& text) { model_.report.losses.Add(load_->kind, text); }
 
     void WriteLoad(const GroupLoad& load)
@@ -103,7 +98,7 @@ class GroupLoads {
         if (load.kind == Kind::kSelfWeight) Lose(kAsLoads);
         const bool isOnBars = group->first == kOfBars;
         for (const Index member : members->second) {
-            if (!model_.MayMultiply()) return Lose(kTooMany);
+            if (!model_.rows.Spend(1)) return Lose(kTooMany);
             model_.report.steps.StopIfAsked();
             if (load.kind == Kind::kSelfWeight) {
                 isOnBars ? AddWeightOfBar(member) : AddWeightOfSurface(member);

@@ -27,15 +27,6 @@ std::string NameOfElement(Model& model, Names& names, const Element& element,
     return name;
 }
 
-std::string LayerOf(const Model& model, int elements, int number)
-{
-    const auto& groups = model.structure.groups;
-    const auto group = std::find_if(groups.begin(), groups.end(), [&](const Group& each) {
-        return each.elements == elements && each.number == number;
-    });
-    return group == groups.end() ? std::string() : group->title;
-}
-
 std::vector<Index> DistinctCorners(const Structure& structure, const Element& element)
 {
     const auto corners = structure.CornersOf(element);

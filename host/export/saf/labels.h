@@ -11,9 +11,6 @@ namespace tamur::host::saf {
 [[nodiscard]] std::string NameOfElement(Model& model, Names& names, const Element& element,
                                         const TMRElementLabels& labels, const char* letter);
 
-// The title of the group; "" when there is none. `elements` is the kind that it gathers.
-[[nodiscard]] std::string LayerOf(const Model& model, int elements, int number);
-
 // "N1; N2; N3", and "Line; Line; Line". Nothing when fewer than three of the corners differ.
 struct Outline {
     std::string nodes, edges;

@@ -106,15 +106,15 @@ Pieces BarsAlong(const Model& model, const Segment& line, std::span<const Member
     return gatherer.Finish();
 }
 
-Pieces EdgesAlong(const Model& model, const Segment& line, std::span<const Member> candidates)
+Pieces EdgesAlong(Model& model, const Segment& line, std::span<const Member> candidates)
 {
     const Structure& structure = model.structure;
     Gatherer gatherer(line, structure.tolerance);
     for (const Member& member : candidates) {
-        if (member.kind != Kind::kSurface) continue;
+        const Element& surface = structure.ElementOf(member);
+        if (member.kind != Kind::kSurface || !model.steps.Spend(surface.cornerCount)) continue;
         // As they are numbered in the sheet of surfaces.
-        const std::vector<Index> corners =
-            DistinctCorners(structure, structure.surfaces[member.index]);
+        const std::vector<Index> corners = DistinctCorners(structure, surface);
         for (std::size_t i = 0; i < corners.size(); ++i) {
             const Index next = corners[i + 1 < corners.size() ? i + 1 : 0];
             gatherer.Add(member.index, static_cast<Index>(i),
@@ -124,13 +124,13 @@ Pieces EdgesAlong(const Model& model, const Segment& line, std::span<const Membe
     return gatherer.Finish();
 }
 
-std::optional<Index> SurfaceWith(const Model& model, const Element& line)
+std::optional<Index> SurfaceWith(Model& model, const Element& line)
 {
     const Structure& structure = model.structure;
     const auto corners = structure.CornersOf(line);
     if (!line.isUsable || corners.size() < 2 || corners[0] == corners[1]) return std::nullopt;
     const auto first = structure.membersAt[corners[0]], last = structure.membersAt[corners[1]];
-    if (last.size() > kMost) return std::nullopt;
+    if (!model.steps.Spend(first.size() * last.size())) return std::nullopt;
     for (const Member& member : first) {
         if (member.kind == Kind::kSurface && IsWritten(model, member) &&
             std::find(last.begin(), last.end(), member) != last.end()) {

@@ -25,7 +25,7 @@ struct Pieces {
 // Bars of the candidates that are written; where several lie along a part the first has it.
 [[nodiscard]] Pieces BarsAlong(const Model& model, const Segment& line,
                                std::span<const Member> candidates);
-[[nodiscard]] Pieces EdgesAlong(const Model& model, const Segment& line,
+[[nodiscard]] Pieces EdgesAlong(Model& model, const Segment& line,
                                 std::span<const Member> candidates);
 
 // What is written and touches one of the points of the line, and those of `more` that are written.
@@ -33,7 +33,7 @@ struct Pieces {
                                                 std::span<const Member> more);
 
 // The surface that has both ends on it.
-[[nodiscard]] std::optional<Index> SurfaceWith(const Model& model, const Element& line);
+[[nodiscard]] std::optional<Index> SurfaceWith(Model& model, const Element& line);
 
 // A line within a surface, which others may refer to by its name.
 void AddInnerEdge(Model& model, const Element& line, Index surface, const std::string& name);

@@ -10,14 +10,12 @@
 #include "host/export/saf/names.h"
 #include "host/export/target.h"
 #include "host/geometry/frames.h"
+#include "host/structure/box_tree.h"
 
 namespace tamur::host::saf {
 
 struct Model {
-    Model(const Source& from, ExportReport& to, Book& into)
-        : source(from), structure(from.structure), report(to), book(into)
-    {
-    }
+    Model(const Source& from, ExportReport& to, Book& into);
 
     const Source& source;
     const Structure& structure;
@@ -41,6 +39,11 @@ struct Model {
         isPointUsed[point] = true;
         return points[point];
     }
+    // The title of the first group of those elements that has that number; "" when there is none.
+    [[nodiscard]] const std::string& LayerOf(int elements, int number) const;
+    // Where the node of that identifier is; null when there is none.
+    [[nodiscard]] const Point* NodeAt(std::int64_t identifier) const;
+
     [[nodiscard]] bool Takes(const Element& element) const
     {
         return source.selection.Takes(element.kind, element.rank);
@@ -52,13 +55,13 @@ struct Model {
 
     // What one load on a group becomes is a row for each element: of very many loads on very many
     // elements only so many rows are written as a file of that size can be about.
-    [[nodiscard]] bool MayMultiply()
-    {
-        if (rowsLeft == 0) return false;
-        --rowsLeft;
-        return true;
-    }
-    std::size_t rowsLeft = 0;
+    Budget rows;
+    // Steps of searches.
+    Budget steps;
+
+ private:
+    std::map<std::pair<int, int>, std::string> layers_;
+    std::map<std::int64_t, Index> nodes_;  // points by identifiers
 };
 
 // Each writes some sheets and gives names to what is in them, in this order.

@@ -31,7 +31,11 @@ std::string Names::Take(std::string_view wanted, const std::string& otherwise)
     std::string name = Cleaned(wanted);
     if (!name.empty() && taken_.insert(name).second) return name;
     name = otherwise;
-    for (int i = 2; !taken_.insert(name).second; ++i) name = otherwise + '-' + std::to_string(i);
+    if (taken_.insert(name).second) return name;
+    int& number = lastNumbers_.try_emplace(otherwise, 1).first->second;
+    do {
+        name = otherwise + '-' + std::to_string(++number);
+    } while (!taken_.insert(name).second);
     return name;
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "host/kinds.h"
@@ -19,6 +20,7 @@ class Names {
 
  private:
     std::unordered_set<std::string> taken_;
+    std::unordered_map<std::string, int> lastNumbers_;  // after names that were taken
 };
 
 // "N1; N2"

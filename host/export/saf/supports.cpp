@@ -164,13 +164,7 @@ class Supports {
     {
         CountLosses(support, record);
         Stiffness stiffness = support.stiffness;
-        const Point* orientation = nullptr;
-        for (const Element& node : structure_.nodes) {
-            if (support.orientationNode == 0) break;
-            if (node.identifier != support.orientationNode || !node.isUsable) continue;
-            orientation = &structure_.points[structure_.corners[node.firstCorner]];
-            break;
-        }
+        const Point* const orientation = model_.NodeAt(support.orientationNode);
         if (!TurnToModel(FrameOfSupport(record, orientation), stiffness) &&
             !IsTheSameAllAround(stiffness)) {
             model_.Lose(support, kTurned);
@@ -272,12 +266,13 @@ class Supports {
         if (part == 0) model_.Lose(support, kNotWhole);
     }
 
-    bool Covers(const Polygon& polygon, Index surface) const
+    bool Covers(const Polygon& polygon, Index surface)
     {
         const std::vector<Point> corners = OutlineOf(structure_, structure_.surfaces[surface]);
-        return std::all_of(corners.begin(), corners.end(), [&](Point corner) {
-            return polygon.Contains(corner, structure_.tolerance);
-        });
+        return model_.steps.Spend(corners.size() * polygon.Size()) &&
+               std::all_of(corners.begin(), corners.end(), [&](Point corner) {
+                   return polygon.Contains(corner, structure_.tolerance);
+               });
     }
 
     void AddSurface(const Support& support, Index surface, const std::string& name, int part)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "host/export/saf/labels.h"
 #include "host/export/saf/lines.h"
@@ -117,7 +118,7 @@ class Surfaces {
         row.Text(name).Text(TypeOf(frame->z)).Text(model_.materials[material]).Text("Constant");
         row.Number(surface.thickness * 1000).Text("Centre").Text(outline->nodes);
         row.Text(InnerNodesOf(place)).Text(outline->edges).Number(surface.area);
-        row.Text(LayerOf(model_, 3, surface.group)).Text("x by vector").Point(frame->x);
+        row.Text(model_.LayerOf(3, surface.group)).Text("x by vector").Point(frame->x);
         row.Number(0).Number(0).Text("Flat");
         row.Text(ToUtf8(ViewOf(record.ElementType)) == "Membrane" ? "Membrane" : "Isotropic");
         row.Skip().Text(model_.ids.Take(Kind::kSurface, surface.identifier));
@@ -136,9 +137,10 @@ class Surfaces {
     std::string InnerNodesOf(std::size_t place)
     {
         const auto corners = structure_.CornersOf(structure_.surfaces[place]);
+        const std::set<Index> isCorner(corners.begin(), corners.end());
         std::string list;
         for (const Index point : innerPoints_[place]) {
-            if (std::find(corners.begin(), corners.end(), point) != corners.end()) continue;
+            if (isCorner.contains(point)) continue;
             AddToList(list, model_.PointName(point));
             if (list.size() > Workbook::kLongestText) return "";  // they are nodes all the same
         }
