@@ -30,6 +30,13 @@ constexpr Target kTargets[] = {
      "",
      Need::kPoints,
      WriteVtm},
+    {"saf",
+     {".saf.xlsx"},
+     {"a workbook of the Structural Analysis Format",
+      "un classeur au format Structural Analysis Format"},
+     "",
+     Need::kContacts,
+     WriteSaf},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)

@@ -28,6 +28,7 @@ class XlsxTables : public TableWriter {
     std::string name_;
     std::vector<std::string> headings_;
     std::size_t sheetOfTable_ = 1;
+    Workbook::Sheet sheet_ = 0;
 };
 
 }  // namespace tamur::host
