@@ -37,6 +37,12 @@ constexpr Target kTargets[] = {
      "",
      Need::kContacts,
      WriteSaf},
+    {"glb",
+     {".glb"},
+     {"glTF 2.0, for viewers and modellers", "glTF 2.0, pour visionneuses et modeleurs"},
+     "",
+     Need::kPoints,
+     WriteGlb},
 };
 
 bool EndsWith(std::string_view name, std::string_view ending)

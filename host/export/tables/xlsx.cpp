@@ -23,11 +23,11 @@ XlsxTables::XlsxTables(const std::filesystem::path& path, Losses& losses, std::s
 {
 }
 
-void XlsxTables::Begin(std::string_view name, std::span<const Column> columns)
+void XlsxTables::Begin(std::string_view name, std::span<const TableColumn> columns)
 {
     name_ = name;
     headings_.clear();
-    for (const Column& column : columns) headings_.push_back(HeadingOf(column));
+    for (const TableColumn& column : columns) headings_.push_back(HeadingOf(column));
     sheetOfTable_ = 1;
     AddSheet();
 }

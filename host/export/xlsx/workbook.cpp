@@ -79,7 +79,10 @@ Workbook::Workbook(const std::filesystem::path& path, Losses& losses)
 
 Workbook::~Workbook()
 {
-    if (book_ != nullptr) lxw_workbook_free(book_);
+    if (book_ == nullptr) return;
+    // What the library closes only when it writes the workbook.
+    for (const Written& written : sheets_) (void)std::fclose(written.sheet->optimize_tmpfile);
+    lxw_workbook_free(book_);
 }
 
 Workbook::Sheet Workbook::AddSheet(const std::string& name, std::span<const std::string> headings)

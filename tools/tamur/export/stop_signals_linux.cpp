@@ -21,7 +21,7 @@ void Stop(int)
 StopSignals::StopSignals(host::Steps& steps)
 {
     g_steps = &steps;
-    (void)std::signal(SIGXFSZ, SIG_IGN);
+    (void)std::signal(SIGXFSZ, SIG_IGN);  // for good: files are closed at the very end too
     struct sigaction action = {};
     action.sa_handler = Stop;
     action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
@@ -39,7 +39,6 @@ StopSignals::~StopSignals()
         sigaction(signal, nullptr, &now);
         if (now.sa_handler == Stop) (void)std::signal(signal, SIG_DFL);
     }
-    (void)std::signal(SIGXFSZ, SIG_DFL);
     g_steps = nullptr;
 }
 
