@@ -45,17 +45,17 @@ namespace {
 void AddSides(const std::vector<std::uint32_t>& triangles, std::uint32_t below,
               std::vector<std::uint32_t>& corners)
 {
-    struct Edge {
+    struct Side {
         std::uint32_t low, high;
         bool isReversed;
     };
-    std::vector<Edge> edges;
+    std::vector<Side> edges;
     for (std::size_t i = 0; i < triangles.size(); ++i) {
         const std::uint32_t from = triangles[i];
         const std::uint32_t to = triangles[i % 3 == 2 ? i - 2 : i + 1];
         edges.push_back({std::min(from, to), std::max(from, to), from > to});
     }
-    std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) {
+    std::sort(edges.begin(), edges.end(), [](const Side& a, const Side& b) {
         return std::pair(a.low, a.high) < std::pair(b.low, b.high);
     });
     const auto isSame = [&](std::size_t i, std::size_t k) {

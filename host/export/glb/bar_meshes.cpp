@@ -31,11 +31,11 @@ BarMeshes::BarMeshes(ITAMURStructureReader& reader, Meshes& meshes, int material
 
 std::optional<BarMeshes::Body> BarMeshes::BodyOf(const Bar& bar, int excentration)
 {
-    using Source = SectionOutline::Source;
+    using OutlineSource = SectionOutline::Source;
     if (bar.startSection == kNone) return std::nullopt;
     const SectionOutline& outline = outlines_[bar.startSection];
-    if (outline.source == Source::kNothing) return std::nullopt;
-    Body body = {0, {}, outline.source == Source::kStandIn};
+    if (outline.source == OutlineSource::kNothing) return std::nullopt;
+    Body body = {0, {}, outline.source == OutlineSource::kStandIn};
     if (bar.endSection != bar.startSection) {
         if (const auto taper = TaperOf(bar, excentration)) {
             body.mesh = *taper;

@@ -19,10 +19,10 @@ constexpr LossText kTooManyNodes = {
     LossType::kPartly,
     {"more inner nodes than a cell holds: they are not written",
      "plus de nœuds intermédiaires qu'une cellule n'en contient : ils ne sont pas écrits"}};
-constexpr LossText kMesh = {LossType::kPartly,
-                            {"mesh steps, and remarks of the import, are not written",
-                             "les pas de maillage et les remarques de l'import ne sont pas "
-                             "écrits"}};
+constexpr LossText kBarMesh = {LossType::kPartly,
+                               {"mesh steps, and remarks of the import, are not written",
+                                "les pas de maillage et les remarques de l'import ne sont pas "
+                                "écrits"}};
 constexpr LossText kAxes = {
     LossType::kAssumed,
     {"axes of bars: z is upwards or towards the orientation node, then turned by the angle that "
@@ -114,7 +114,7 @@ class Bars {
     {
         model_.Lose(bar, kAxes);
         if (bar.IsTruss()) model_.Lose(bar, kTruss);
-        if (record.MeshStep != 0 || record.ErrorMessage != nullptr) model_.Lose(bar, kMesh);
+        if (record.MeshStep != 0 || record.ErrorMessage != nullptr) model_.Lose(bar, kBarMesh);
         if (((bar.releasedAtStart | bar.releasedAtEnd) & RELAXATION_X) != 0) {
             model_.Lose(bar, kRelaxation);
         }

@@ -22,7 +22,7 @@ constexpr LossText kEmptyCase = {
 constexpr LossText kParameters = {
     LossType::kNot,
     {"spectra and parameters have no columns", "les spectres et paramètres n'ont pas de colonnes"}};
-constexpr LossText kTooMany = {
+constexpr LossText kTooManyCases = {
     LossType::kNot,
     {"a combination of more than 99 cases, or one without a case that can be combined",
      "une combinaison de plus de 99 cas, ou sans cas qui puisse être combiné"}};
@@ -204,11 +204,11 @@ class Cases {
         for (std::size_t i = 0; i < combined.cases.size(); ++i) {
             if (!AddTo(each.sum, combined.cases[i], combined.factors[i], 0)) {
                 losses.Add(Kind::kCombination,
-                           each.sum.size() > kMostCases ? kTooMany : kOfEnvelopes);
+                           each.sum.size() > kMostCases ? kTooManyCases : kOfEnvelopes);
                 return;
             }
         }
-        if (each.sum.empty()) return losses.Add(Kind::kCombination, kTooMany);
+        if (each.sum.empty()) return losses.Add(Kind::kCombination, kTooManyCases);
         const bool isNested =
             std::any_of(combined.cases.begin(), combined.cases.end(),
                         [this](int number) { return combinations_.contains(number); });

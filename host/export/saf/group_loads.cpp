@@ -22,9 +22,7 @@ constexpr LossText kAsLoads = {
 constexpr LossText kNoGroup = {LossType::kNot,
                                {"there is no such group of bars or surfaces",
                                 "il n'y a pas de tel groupe de filaires ou de surfaciques"}};
-constexpr LossText kNoCase = {LossType::kNot,
-                              {"its case is no load case", "son cas n'est pas un cas de charge"}};
-constexpr LossText kTooMany = {
+constexpr LossText kTooManyLoads = {
     LossType::kPartly,
     {"more rows for loads on groups than a model of this size can need: the others are not written",
      "plus de lignes pour des charges sur groupes qu'un tel modèle n'en peut vouloir : les autres "
@@ -90,7 +88,7 @@ class GroupLoads {
             return Lose(kComputed);
         }
         const auto loadCase = model_.cases.find(load.loadCase);
-        if (loadCase == model_.cases.end()) return Lose(kNoCase);
+        if (loadCase == model_.cases.end()) return Lose(kLoadWithoutCase);
         case_ = loadCase->second;
         const auto group = GroupOf(structure_, load);
         const auto members = group ? members_.find(*group) : members_.end();
@@ -98,7 +96,7 @@ class GroupLoads {
         if (load.kind == Kind::kSelfWeight) Lose(kAsLoads);
         const bool isOnBars = group->first == kOfBars;
         for (const Index member : members->second) {
-            if (!model_.rows.Spend(1)) return Lose(kTooMany);
+            if (!model_.rows.Spend(1)) return Lose(kTooManyLoads);
             model_.report.steps.StopIfAsked();
             if (load.kind == Kind::kSelfWeight) {
                 isOnBars ? AddWeightOfBar(member) : AddWeightOfSurface(member);

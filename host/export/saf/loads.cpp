@@ -9,10 +9,8 @@
 namespace tamur::host::saf {
 namespace {
 
-constexpr LossText kUnusable = {
+constexpr LossText kUnusableLoad = {
     LossType::kNot, {"the coordinates cannot be meant", "les coordonnées sont impossibles"}};
-constexpr LossText kNoCase = {LossType::kNot,
-                              {"its case is no load case", "son cas n'est pas un cas de charge"}};
 constexpr LossText kNothing = {LossType::kNot,
                                {"all its values are 0", "toutes ses valeurs sont nulles"}};
 constexpr LossText kFreeMoments = {
@@ -23,9 +21,10 @@ constexpr LossText kFree = {
     LossType::kPartly,
     {"what lies along no bar is a free load on surfaces",
      "ce qui n'est pas le long d'un filaire est une charge libre sur les surfaciques"}};
-constexpr LossText kTurned = {LossType::kPartly,
-                              {"local components are written along the axes of the model",
-                               "les composantes locales sont écrites selon les axes du modèle"}};
+constexpr LossText kTurnedLoad = {
+    LossType::kPartly,
+    {"local components are written along the axes of the model",
+     "les composantes locales sont écrites selon les axes du modèle"}};
 constexpr LossText kProjected = {
     LossType::kAssumed,
     {"a projected load is per length or area of its projection along its direction",
@@ -34,11 +33,12 @@ constexpr LossText kIntensity = {
     LossType::kAssumed,
     {"the forces and moments are a direction that the intensities multiply",
      "les forces et moments sont une direction que multiplient les intensités"}};
-constexpr LossText kNoPolygon = {LossType::kNot,
-                                 {"an outline without an area, or with more corners than a cell "
-                                  "holds",
-                                  "un contour sans aire, ou de plus de points qu'une cellule n'en "
-                                  "contient"}};
+constexpr LossText kNoLoadPolygon = {
+    LossType::kNot,
+    {"an outline without an area, or with more corners than a cell "
+     "holds",
+     "un contour sans aire, ou de plus de points qu'une cellule n'en "
+     "contient"}};
 
 constexpr std::array<const char*, 3> kDirections = {"X", "Y", "Z"};
 constexpr std::array<const char*, 3> kMomentDirections = {"Mx", "My", "Mz"};
@@ -66,12 +66,12 @@ class Loads {
             model_.report.steps.Do();
             if (!model_.Takes(load)) continue;
             if (!load.isUsable || load.cornerCount == 0) {
-                model_.Lose(load, kUnusable);
+                model_.Lose(load, kUnusableLoad);
                 continue;
             }
             const auto loadCase = model_.cases.find(load.loadCase);
             if (loadCase == model_.cases.end()) {
-                model_.Lose(load, kNoCase);
+                model_.Lose(load, kLoadWithoutCase);
                 continue;
             }
             Begin(load, loadCase->second);
@@ -137,7 +137,7 @@ class Loads {
         std::optional<Frame> local;
         if (load_->frame == TMR_FORCE_LOCAL) {
             local = LocalFrame(place);
-            if (local) model_.Lose(*load_, kTurned);
+            if (local) model_.Lose(*load_, kTurnedLoad);
         }
         const Frame frame = FrameOfLoad(load_->frame, local);
         const auto forces = PartsOf(frame.ToGlobal(Forces()));
@@ -163,7 +163,7 @@ class Loads {
     void WriteLine(std::size_t place)
     {
         const auto corners = structure_.CornersOf(*load_);
-        if (corners[0] == corners[1]) return LoseWhole(kNoPolygon);
+        if (corners[0] == corners[1]) return LoseWhole(kNoLoadPolygon);
         model_.Lose(*load_, kIntensity);
         if (load_->frame == TMR_FORCE_PROJETE) model_.Lose(*load_, kProjected);
         const auto record = onLines_.At(static_cast<LONG>(load_->rank));
@@ -231,7 +231,7 @@ class Loads {
     Point FreeForces(std::size_t place, const std::optional<Frame>& own)
     {
         if (load_->frame != TMR_FORCE_LOCAL) return Forces();
-        model_.Lose(*load_, kTurned);
+        model_.Lose(*load_, kTurnedLoad);
         const std::optional<Frame> local = LocalFrame(place);
         return FrameOfLoad(load_->frame, local ? local : own).ToGlobal(Forces());
     }
@@ -270,7 +270,7 @@ class Loads {
         const std::vector<Point> corners = OutlineOf(structure_, *load_);
         const auto own = FrameOfPolygon(corners);
         constexpr std::size_t kMostCorners = 1000;  // their coordinates fill a cell
-        if (!own || corners.size() > kMostCorners) return LoseWhole(kNoPolygon);
+        if (!own || corners.size() > kMostCorners) return LoseWhole(kNoLoadPolygon);
         model_.Lose(*load_, kIntensity);
         if (load_->frame == TMR_FORCE_PROJETE) model_.Lose(*load_, kProjected);
         const auto record = onSurfaces_.At(static_cast<LONG>(load_->rank));

@@ -6,9 +6,9 @@
 namespace tamur::host::saf {
 namespace {
 
-constexpr LossText kDamping = {LossType::kPartly,
-                               {"there is no column for damping ratios",
-                                "il n'y a pas de colonne pour les taux d'amortissement"}};
+constexpr LossText kMaterialDamping = {LossType::kPartly,
+                                       {"there is no column for damping ratios",
+                                        "il n'y a pas de colonne pour les taux d'amortissement"}};
 constexpr LossText kType = {
     LossType::kAssumed,
     {"what a material is (concrete, steel, ...) follows from its name, else it is Other",
@@ -60,7 +60,7 @@ void WriteMaterials(Model& model)
         const std::string otherwise = "MAT" + std::to_string(model.materials.size() + 1);
         const std::string name = names.Take(material.name, otherwise);
         model.materials.push_back(name);
-        if (material.damping != 0) model.report.losses.Add(Kind::kMaterial, kDamping);
+        if (material.damping != 0) model.report.losses.Add(Kind::kMaterial, kMaterialDamping);
         model.report.losses.Add(Kind::kMaterial, kType);
         Row row;
         row.Text(name).Text(TypeOf(material.name)).Text(name);

@@ -14,6 +14,10 @@
 
 namespace tamur::host::saf {
 
+// Of a load whose number is none of Model::cases.
+inline constexpr LossText kLoadWithoutCase = {
+    LossType::kNot, {"its case is no load case", "son cas n'est pas un cas de charge"}};
+
 struct Model {
     Model(const Source& from, ExportReport& to, Book& into);
 

@@ -12,7 +12,7 @@ constexpr LossText kSamePlace = {
     LossType::kPartly,
     {"nodes in the same place are one, with the name of the first",
      "les nœuds au même endroit n'en font qu'un, avec le nom du premier"}};
-constexpr LossText kUnusable = {
+constexpr LossText kUnusablePoint = {
     LossType::kNot, {"the coordinates cannot be meant", "les coordonnées sont impossibles"}};
 constexpr LossText kMerged = {LossType::kAssumed,
                               {"points nearer to each other than the tolerance are one node",
@@ -31,7 +31,7 @@ void NamePoints(Model& model)
     for (const Element& node : structure.nodes) {
         if (!model.Takes(node)) continue;
         if (!node.isUsable) {
-            model.Lose(node, kUnusable);
+            model.Lose(node, kUnusablePoint);
             continue;
         }
         const auto record = records.At(static_cast<LONG>(node.rank));

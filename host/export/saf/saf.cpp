@@ -11,7 +11,7 @@ namespace {
 
 constexpr LossText kUnknown = {LossType::kNot,
                                {"the format has nothing like it", "le format n'a rien de tel"}};
-constexpr LossText kNoCase = {
+constexpr LossText kDisplacementWithoutCase = {
     LossType::kNot,
     {"an imposed displacement needs a support and a load case, and has no case",
      "un déplacement imposé demande un appui et un cas de charge, et n'a pas de cas"}};
@@ -99,7 +99,7 @@ void CountWhatIsNotWritten(Model& model)
     Count(model, structure.cuts, kUnknown);
     Count(model, structure.constructionLines, kUnknown);
     CountLoads(model, structure.masses, kUnknown);
-    CountLoads(model, structure.displacements, kNoCase);
+    CountLoads(model, structure.displacements, kDisplacementWithoutCase);
     Losses& losses = model.report.losses;
     losses.Add(Kind::kGroup, kGroups, structure.groups.size());
     losses.Add(Kind::kRelease, kReleases, structure.releases.size());

@@ -10,12 +10,12 @@
 namespace tamur::host::saf {
 namespace {
 
-constexpr LossText kDamping = {
+constexpr LossText kSupportDamping = {
     LossType::kPartly,
     {"damping and bearing areas have no columns; supports have no layers for their groups",
      "les amortissements et aires d'appui n'ont pas de colonnes, ni les groupes d'appuis de "
      "calques"}};
-constexpr LossText kTurned = {
+constexpr LossText kTurnedSupport = {
     LossType::kPartly,
     {"supports of nodes are along the axes of the model: one that is turned by less than a quarter "
      "is written unturned",
@@ -24,7 +24,7 @@ constexpr LossText kTurned = {
 constexpr LossText kLineAngle = {LossType::kPartly,
                                  {"angles of line supports are not written",
                                   "les angles d'appuis linéaires ne sont pas écrits"}};
-constexpr LossText kUnusable = {
+constexpr LossText kUnusableSupport = {
     LossType::kNot, {"the coordinates cannot be meant", "les coordonnées sont impossibles"}};
 constexpr LossText kOnNothing = {
     LossType::kNot,
@@ -132,7 +132,7 @@ class Supports {
             model_.report.steps.Do();
             if (!model_.Takes(support)) continue;
             if (!support.isUsable || support.cornerCount == 0) {
-                model_.Lose(support, kUnusable);
+                model_.Lose(support, kUnusableSupport);
                 continue;
             }
             if (support.condition == SupportCondition::kRigid) model_.Lose(support, kRigid);
@@ -157,7 +157,7 @@ class Supports {
                         [](double value) { return value != 0; });
         bool hasArea = false;
         if constexpr (requires { record.Surface; }) hasArea = record.Surface != 0;
-        if (hasDamping || hasArea || record.GroupNumber != 0) model_.Lose(support, kDamping);
+        if (hasDamping || hasArea || record.GroupNumber != 0) model_.Lose(support, kSupportDamping);
     }
 
     void WritePoint(const Support& support, const TMRAppuiPonctuel& record)
@@ -167,7 +167,7 @@ class Supports {
         const Point* const orientation = model_.NodeAt(support.orientationNode);
         if (!TurnToModel(FrameOfSupport(record, orientation), stiffness) &&
             !IsTheSameAllAround(stiffness)) {
-            model_.Lose(support, kTurned);
+            model_.Lose(support, kTurnedSupport);
         }
         Row row;
         row.Text(NameOfElement(model_, pointNames_, support, record.ElemLabels, "Sn"));

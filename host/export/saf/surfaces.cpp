@@ -10,7 +10,7 @@
 namespace tamur::host::saf {
 namespace {
 
-constexpr LossText kNoPolygon = {
+constexpr LossText kNoSurfacePolygon = {
     LossType::kNot,
     {"an outline without an area, with coordinates that cannot be meant, or with more corners than "
      "a cell holds",
@@ -20,8 +20,8 @@ constexpr LossText kSlopes = {
     LossType::kPartly,
     {"slopes (PenteX, PenteY) are not written: what they change is not documented",
      "les pentes (PenteX, PenteY) ne sont pas écrites : leur effet n'est pas documenté"}};
-constexpr LossText kMesh = {LossType::kPartly,
-                            {"meshing is not written", "le maillage n'est pas écrit"}};
+constexpr LossText kSurfaceMesh = {LossType::kPartly,
+                                   {"meshing is not written", "le maillage n'est pas écrit"}};
 constexpr LossText kPlaneStrain = {
     LossType::kPartly,
     {"plane strain and axial symmetry are unknown to the format: Isotropic is written",
@@ -108,7 +108,7 @@ class Surfaces {
             surface.isUsable ? OutlineOf(structure_, surface) : std::vector<Point>();
         const auto frame = FrameOfPolygon(corners);
         const auto outline = OutlineOfCorners(model_, surface);
-        if (!frame || !outline) return model_.Lose(surface, kNoPolygon);
+        if (!frame || !outline) return model_.Lose(surface, kNoSurfacePolygon);
         const std::string name = NameOfElement(model_, names_, surface, record.ElemLabels, "S");
         model_.surfaces[place] = name;
         CountLosses(surface, record);
@@ -129,7 +129,7 @@ class Surfaces {
     {
         model_.Lose(surface, kPlane);
         if (record.PenteX != 0 || record.PenteY != 0) model_.Lose(surface, kSlopes);
-        if (record.NbXMesh != 0 || record.NbYMesh != 0) model_.Lose(surface, kMesh);
+        if (record.NbXMesh != 0 || record.NbYMesh != 0) model_.Lose(surface, kSurfaceMesh);
         const std::string type = ToUtf8(ViewOf(record.ElementType));
         if (type == "D\u00E9f Plane" || type == "Axisym") model_.Lose(surface, kPlaneStrain);
     }
@@ -159,11 +159,11 @@ class Surfaces {
             }
             const auto outline = OutlineOfCorners(model_, opening);
             if (!outline || !(opening.area > 0)) {
-                model_.Lose(opening, kNoPolygon);
+                model_.Lose(opening, kNoSurfacePolygon);
                 continue;
             }
             const auto record = records.At(static_cast<LONG>(opening.rank));
-            if (record->NbXMesh != 0 || record->NbYMesh != 0) model_.Lose(opening, kMesh);
+            if (record->NbXMesh != 0 || record->NbYMesh != 0) model_.Lose(opening, kSurfaceMesh);
             Row row;
             row.Text(NameOfElement(model_, names, opening, record->ElemLabels, "O"));
             row.Text(model_.surfaces[opening.surface]).Text(outline->nodes).Text(outline->edges);
@@ -184,7 +184,7 @@ class Surfaces {
                 continue;
             }
             const auto record = records.At(static_cast<LONG>(line.rank));
-            if (record->iMaillage != 0) model_.Lose(line, kMesh);
+            if (record->iMaillage != 0) model_.Lose(line, kSurfaceMesh);
             AddInnerEdge(model_, line, *surface,
                          NameOfElement(model_, model_.innerEdges, line, record->ElemLabels, "IL"));
         }
@@ -201,7 +201,7 @@ class Surfaces {
             const auto frame = FrameOfPolygon(corners);
             const auto outline = OutlineOfCorners(model_, wall);
             if (!frame || !outline) {
-                model_.Lose(wall, kNoPolygon);
+                model_.Lose(wall, kNoSurfacePolygon);
                 continue;
             }
             model_.Lose(wall, kClimate);
