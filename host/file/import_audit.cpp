@@ -87,7 +87,7 @@ void ImportAudit::OnLine(std::string_view text, bool isCut)
     if (IsSetting(*section_)) return ReadSetting(text);
     SectionBalance& section = balance_.Of(*section_);
     ++(text[0] == '\0' ? section.empty : section.data);
-    if (text[0] == '\0') return;
+    if (text[0] == '\0' || !walksLines_) return;
     now_.isOpen = true;
     now_.isBlank = *SkipBlanks(text.data()) == '\0';
     switch (PlainOf(*section_)) {
@@ -211,6 +211,7 @@ void ImportAudit::Drop(Finding why)
 
 void ImportAudit::OnFinding(tamur::Finding finding)
 {
+    if (!walksLines_) return;
     const WalkedLine& walked = walk_.Last();
     const Problem& problem = walked.problem;
     constexpr std::uint8_t kPointsGroup = 1;
@@ -437,7 +438,7 @@ void ImportAudit::Finish(const std::string& path)
     }
     FinishFile(tail);
     FinishBalance(tail);
-    if (refusal_) return;
+    if (refusal_ || !walksLines_) return;
     FinishTables();
     lineFindings_.Finish(balance_);
     FinishSections();
