@@ -64,6 +64,7 @@ class Layout:
     def lines(self) -> Iterator[str]:
         """As the library says it of its own rows."""
         yield f"{self.name} {self.dtype.itemsize}"
-        for name in self.dtype.names or ():
-            kind, offset = (self.dtype.fields or {})[name][:2]
+        places: Any = self.dtype.fields
+        for name in self.by_name:
+            kind, offset = places[name][:2]
             yield f"{self.name}.{name} {offset} {kind.itemsize}"

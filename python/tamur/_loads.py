@@ -1,7 +1,7 @@
 """The loads of one load case, or of all."""
 from __future__ import annotations
 
-from typing import TYPE_CHECKING, Iterator, Optional
+from typing import TYPE_CHECKING, Any, Iterator, Optional
 
 from ._table import Table
 from ._tables import LineLoads, PointLoads, SelfWeightLoads, SurfaceLoads, ThermalLoads
@@ -21,7 +21,7 @@ class Loads:
         self.self_weight: SelfWeightLoads = self._of(model.self_weight_loads)
         self.thermal: ThermalLoads = self._of(model.thermal_loads)
 
-    def _of(self, table: Table) -> Table:
+    def _of(self, table: Table) -> Any:
         return table if self.case is None else table[table["load_case"] == self.case]
 
     def __iter__(self) -> Iterator[Table]:

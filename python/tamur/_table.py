@@ -103,12 +103,13 @@ class Table:
         if places.dtype.kind == "b":
             if len(places) != len(self):
                 raise IndexError(f"{len(places)} booleans for {len(self)} rows")
-            return self._rows[places]
+            chosen: Array = self._rows[places]
+            return chosen
         if len(places) and not (-1 <= int(places.min()) and int(places.max()) < len(self)):
             raise IndexError(f"{self.layout.name} have {len(self)} rows")
         if len(self) == 0:
             return np.repeat(self.layout.absent_row(), len(places))
-        taken = self._rows[places]
+        taken: Array = self._rows[places]
         is_absent = places == -1
         if is_absent.any():
             taken[is_absent] = self.layout.absent_row()
@@ -186,4 +187,5 @@ class FindingTable(Table):
         """Those that are an "error", a "warning" or a "note"."""
         if severity not in ("error", "warning", "note"):
             raise ValueError(f"no severity {severity!r}: error, warning or note")
-        return self[np.asarray(self["severity"] == severity, bool)]
+        found: FindingTable = self[np.asarray(self["severity"] == severity, bool)]
+        return found
