@@ -28,6 +28,7 @@ const Group kGroups[] = {
     {"repeated", MeasureRepeatedImports},
     {"threads", MeasureThreads},
     {"check", MeasureCheck},
+    {"python", MeasurePython},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory
