@@ -326,12 +326,12 @@ TABLES = [
         ("code", "=text", "", "TMR101 and so on: docs/check.md explains each"),
         ("severity", "=text", "", "error, warning or note"),
         ("line", "=int", "", "of the file, from 1; 0 where there is none"),
+        ("text", "=text", "", "in English"),
         ("column", "=int", "", "of that line, from 1; 0 for the whole line"),
         ("length", "=int", "", "how many characters are meant"),
         ("kind", "=text", "", "of the record that it is about: \"bar\""),
         ("identifier", "=long", "", "of that record, or its number; -1 for none"),
         ("values", "=texts", "", "what the texts speak of"),
-        ("text", "=text", "", "in English"),
         ("text_fr", "=text", "", "in French"),
     ], base="FindingTable"),
     TableNames(32, "numbers of findings by code", "", "finding_counts", "FindingCount", [

@@ -7,6 +7,8 @@ from ._table import Table
 from ._tables import LineLoads, PointLoads, SelfWeightLoads, SurfaceLoads, ThermalLoads
 
 if TYPE_CHECKING:
+    import pandas
+
     from ._model import Model
 
 
@@ -29,6 +31,13 @@ class Loads:
 
     def __len__(self) -> int:
         return sum(map(len, self))
+
+    def to_frame(self) -> pandas.DataFrame:
+        """All of them, with the table that they are in; what a kind has not is NaN."""
+        import pandas
+
+        frames = {table.layout.name: table.to_frame() for table in self}
+        return pandas.concat(frames, names=["table", None]).reset_index("table")
 
     def __repr__(self) -> str:
         of = "" if self.case is None else f" of case {self.case}"

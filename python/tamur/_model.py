@@ -3,6 +3,7 @@ from __future__ import annotations
 
 import html
 import os
+import sys
 import tempfile
 from typing import IO, TYPE_CHECKING, Any, Optional, TypeVar, Union
 
@@ -97,9 +98,9 @@ def read(source: Source, *, check: bool = False) -> Model:
         path = os.fsdecode(source)
         if "\0" in path:
             raise ValueError("a path with a NUL in it")
-        if _is_utf8(path):
+        if _is_plain(path):
             return Model(ModelHandle(path, check, path), path, check)
-        # The library takes names in UTF-8.
+        # The import would open another file, or none.
         with open(path, "rb") as file:
             return _read_bytes(file.read(), check, path)
     if isinstance(source, (bytes, bytearray, memoryview)):
@@ -113,9 +114,10 @@ def read(source: Source, *, check: bool = False) -> Model:
                     + type(source).__name__)
 
 
-def _is_utf8(path: str) -> bool:
+def _is_plain(path: str) -> bool:
+    """Whether the name survives the way to the system: as UTF-8, on Windows in the code page."""
     try:
-        path.encode("utf-8")
+        path.encode("mbcs" if sys.platform == "win32" else "utf-8")
         return True
     except UnicodeEncodeError:
         return False

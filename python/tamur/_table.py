@@ -149,6 +149,9 @@ class Table:
         value = self._rows[name][place]
         return self._all_texts()[value] if column.kind == "text" else value.item()
 
+    def __reduce__(self) -> Any:
+        raise TypeError("a table does not travel between processes: its columns and frames do")
+
     def __repr__(self) -> str:
         return _text.plain_table(self)
 

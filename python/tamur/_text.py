@@ -13,7 +13,7 @@ if TYPE_CHECKING:
 
 _SHOWN_ROWS = 10
 _WIDTH = 100
-_WIDEST = 28
+_WIDEST = 60
 
 
 def plain_columns(table: Table) -> Iterator[tuple[str, Any]]:
@@ -81,11 +81,14 @@ def plain_table(table: Table) -> str:
         width = max(map(len, texts))
         is_cut = is_cut or len(lines[0]) + width + 2 > _WIDTH
         if not is_cut:
-            lines = [line + "  " + text.rjust(width) for line, text in zip(lines, texts)]
+            is_text = column.kind in ("text", "texts")
+            lines = [line + "  " + (text.ljust(width) if is_text else text.rjust(width))
+                     for line, text in zip(lines, texts)]
     if is_cut:
         lines[0] += "  …"
     if len(places) < len(table):
         lines.insert(1 + len(places) // 2, "  …")
+    lines = [line.rstrip() for line in lines]
     return "\n".join([_title(table), *lines]) if len(table) else _title(table)
 
 

@@ -216,6 +216,15 @@ def test_frames(hall):
     assert len(model.seismic_cases.to_frame()) == 0
 
 
+def test_the_frame_of_all_loads(hall):
+    model = tamur.read(hall)
+    frame = model.loads(case=2).to_frame()
+    assert len(frame) == 12 and set(frame["table"]) == {"line_loads"}
+    assert len(model.loads().to_frame()) == len(model.loads())
+    assert set(model.loads().to_frame()["table"]) == {
+        table.layout.name for table in model.loads() if len(table)}
+
+
 def test_shown_as_text_and_html(hall):
     model = tamur.read(hall, check=True)
     text = repr(model.bars)
@@ -242,5 +251,9 @@ def test_arrays_cannot_be_changed(hall):
 
 
 def test_models_do_not_travel(hall):
+    model = tamur.read(hall)
     with pytest.raises(TypeError, match="read its file there"):
-        pickle.dumps(tamur.read(hall))
+        pickle.dumps(model)
+    with pytest.raises(TypeError, match="its columns and frames do"):
+        pickle.dumps(model.bars)
+    assert pickle.loads(pickle.dumps(model.bars["start"])).shape == (55, 3)

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -10,6 +11,7 @@
 #include <vector>
 
 #include "models/every_table.h"
+#include "models/hostile_families.h"
 #include "support/component_under_test.h"
 #include "support/model_text.h"
 
@@ -136,6 +138,36 @@ TEST(CInterface, StoresNoMoreOfAListThanTheLineHolds)
     EXPECT_EQ(RowsOf<TamurSection>(sections)[0].outline.count, 98000);
     EXPECT_LE(sections->real_count, 20u);
     EXPECT_EQ(sections->reals[1], 2);
+}
+
+std::uint64_t BytesOfAllTables(const Model& model)
+{
+    std::uint64_t bytes = 0;
+    for (int number = TAMUR_MATERIALS; number <= TAMUR_MESSAGES; ++number) {
+        const TablePointer table = TableFrom(model, number);
+        bytes += table->count * table->row_size + table->text_bytes;
+        bytes += (table->real_count + table->text_count) * 8 + table->integer_count * 4;
+    }
+    return bytes;
+}
+
+// The rows of the shortest lines: a wall of three bytes has one of 248.
+TEST(CInterface, AllTablesTakeMemoryInProportionToTheFile)
+{
+    constexpr std::uint64_t kTimes = 90;
+    constexpr std::uint64_t kAtLeast = 64 << 10;
+    for (const bench::MinimalLine& minimal : bench::MinimalLines()) {
+        std::string text = ModelText().Text() + minimal.sections;
+        for (int i = 0; i < 2000; ++i) text += minimal.line;
+        EXPECT_LE(BytesOfAllTables(OpenedText(text)), kAtLeast + kTimes * text.size())
+            << minimal.sections << minimal.line;
+    }
+    for (const bench::HostileFamily& family : bench::HostileFamilies()) {
+        std::string text = ModelText().Text();
+        family.write(text, std::max(family.size / 200, 1));
+        EXPECT_LE(BytesOfAllTables(OpenedText(text)), kAtLeast + kTimes * text.size())
+            << family.name;
+    }
 }
 
 TEST(CInterface, SaysWhyAFileIsRefused)
