@@ -24,6 +24,7 @@
 #ifndef TAMUR_TAMUR_H
 #define TAMUR_TAMUR_H
 
+#include <stddef.h>
 #include <stdint.h>
 #include <tamur/rows.h>
 
@@ -103,15 +104,15 @@ TAMUR_API int32_t TamurDiff(TamurModel* before, TamurModel* after, double tolera
                             TamurError* error);
 TAMUR_API void TamurReleaseText(char* text); /* null does nothing */
 
-/* The command-line tool, in this process and with its standard streams. The arguments are UTF-8,
- * without the name of a program. Returns its exit code.
+/* The command-line tool, in this process and with its standard streams, so one call at a time. The
+ * arguments are UTF-8, without the name of a program. Returns its exit code.
  */
 TAMUR_API int32_t TamurRunTool(int32_t count, const char* const* arguments);
 
 /* A text of a row by its place: null where there is none. */
 static inline const char* TamurTextAt(const TamurTable* table, int32_t place)
 {
-    return place < 0 ? (const char*)0 : table->texts + table->text_starts[place];
+    return place < 0 ? NULL : table->texts + table->text_starts[place];
 }
 
 #ifdef __cplusplus

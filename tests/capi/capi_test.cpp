@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "models/every_table.h"
+#include "models/generated.h"
 #include "models/hostile_families.h"
 #include "support/component_under_test.h"
 #include "support/model_text.h"
@@ -233,6 +234,23 @@ TEST(CInterface, HasTheFindingsOfACheck)
         all += RowsOf<TamurFindingCount>(counts)[i].count;
     }
     EXPECT_EQ(all, static_cast<std::int64_t>(findings->count));
+}
+
+// Of use under sanitizers too: everything that a check looks at, and every row.
+TEST(CInterface, ChecksModelsThatNoEngineerWouldWrite)
+{
+    int opened = 0;
+    for (std::uint32_t i = 0; i < 200; ++i) {
+        const TemporaryFile file(GeneratedModel(i));
+        TamurModel* model = nullptr;
+        if (TamurOpen(Utf8Of(file.Path()).c_str(), 1, &model, nullptr) != TAMUR_OK) continue;
+        const Model owned(model);
+        ++opened;
+        EXPECT_GT(BytesOfAllTables(owned), 0u);
+        EXPECT_GE(TableFrom(owned, TAMUR_FINDINGS)->count,
+                  TableFrom(owned, TAMUR_FINDING_COUNTS)->count);
+    }
+    EXPECT_GT(opened, 100);
 }
 
 TEST(CInterface, ComparesModels)
