@@ -19,8 +19,8 @@ class RowCompleter {
  public:
     explicit RowCompleter(ITAMURStructureReader& reader) : reader_(reader) {}
 
-    template <class PublicRecord, class Row>
-    void Complete(const PublicRecord& record, [[maybe_unused]] std::size_t rank, Row& row)
+    template <class PublicRecord, class RowType>
+    void Complete(const PublicRecord& record, [[maybe_unused]] std::size_t rank, RowType& row)
     {
         if constexpr (std::is_same_v<PublicRecord, TMRSurfacique>) {
             row.material = MaterialOfSurface(reader_, rank);
@@ -52,14 +52,14 @@ class RowCompleter {
 template <class PublicRecord>
 void AddRecords(ITAMURStructureReader& reader, RowTable& table)
 {
-    using Row = typename RowTypeOf<PublicRecord>::Row;
+    using RowType = typename RowTypeOf<PublicRecord>::Row;
     const Range<PublicRecord> records = Records<PublicRecord>(reader);
     const LONG size = records.Size();
-    table.Reserve<Row>(static_cast<std::size_t>(size));
+    table.Reserve<RowType>(static_cast<std::size_t>(size));
     RowCompleter completer(reader);
     for (LONG rank = 0; rank < size; ++rank) {
         const Record<PublicRecord> record = records.At(rank);
-        Row& row = table.Add<Row>();
+        RowType& row = table.Add<RowType>();
         FillRow(record.Get(), table.Blocks(), row);
         completer.Complete(record.Get(), static_cast<std::size_t>(rank), row);
     }

@@ -13,20 +13,20 @@ namespace tamur::host {
 class RowTable {
  public:
     // How many there will be.
-    template <class Row>
+    template <class RowType>
     void Reserve(std::size_t count)
     {
-        rowSize_ = sizeof(Row);
-        rows_.reserve(count * sizeof(Row));
+        rowSize_ = sizeof(RowType);
+        rows_.reserve(count * sizeof(RowType));
     }
     // One more row, all zero, what is between its members too; it moves when the next one is added.
-    template <class Row>
-    [[nodiscard]] Row& Add()
+    template <class RowType>
+    [[nodiscard]] RowType& Add()
     {
-        rowSize_ = sizeof(Row);
-        rows_.resize(rows_.size() + sizeof(Row));
+        rowSize_ = sizeof(RowType);
+        rows_.resize(rows_.size() + sizeof(RowType));
         ++count_;
-        return *reinterpret_cast<Row*>(rows_.data() + rows_.size() - sizeof(Row));
+        return *reinterpret_cast<RowType*>(rows_.data() + rows_.size() - sizeof(RowType));
     }
 
     [[nodiscard]] const std::byte* Rows() const { return rows_.data(); }
