@@ -34,5 +34,6 @@ void MeasureRepeatedImports(Context& context);
 void MeasureThreads(Context& context);
 void MeasureCheck(Context& context);
 void MeasureExports(Context& context);
+void MeasurePython(Context& context);
 
 }  // namespace tamur::bench

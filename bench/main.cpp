@@ -29,6 +29,7 @@ const Group kGroups[] = {
     {"threads", MeasureThreads},
     {"check", MeasureCheck},
     {"exports", MeasureExports},
+    {"python", MeasurePython},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory

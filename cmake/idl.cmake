@@ -52,6 +52,18 @@ add_custom_command(
     COMMENT "Contract: the component's accessors"
     VERBATIM)
 
+# The rows that tables are handed over in, in C and in Python.
+add_custom_command(
+    OUTPUT ${generated_dir}/tamur/rows.h ${generated_dir}/host/row_fills.h
+           ${generated_dir}/host/row_layout.h ${generated_dir}/python/_tables.py
+           ${generated_dir}/python/_tables.pyi ${generated_dir}/python/columns.md
+    COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_rows.py ${idl_dir}/TAMURReader.idl
+            ${generated_dir}
+    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/generate_rows.py ${idl_dir}/python_rows.py
+            ${idl_dir}/rows.py ${idl_dir}/row_columns.py ${idl_dir}/contract.py
+    COMMENT "Contract: rows of the tables"
+    VERBATIM)
+
 set(bindings_dir ${generated_dir}/bindings)
 file(GLOB contract_scripts CONFIGURE_DEPENDS ${idl_dir}/*.py)
 add_custom_command(
@@ -68,6 +80,7 @@ add_custom_target(bindings ALL DEPENDS ${bindings_dir}/tamur_reader.py
 add_custom_target(contract DEPENDS ${generated_dir}/TAMURReader.h
                                    ${generated_dir}/tamur/fields.h
                                    ${generated_dir}/tamur/tables.h
+                                   ${generated_dir}/tamur/rows.h
                                    ${generated_dir}/component/accessor_classes.h)
 
 # What hosts include; on other systems than Windows with the stand-ins for its headers.

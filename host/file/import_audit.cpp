@@ -86,8 +86,9 @@ void ImportAudit::OnLine(std::string_view text, bool isCut)
     now_.column = column_;
     if (IsSetting(*section_)) return ReadSetting(text);
     SectionBalance& section = balance_.Of(*section_);
-    ++(text[0] == '\0' ? section.empty : section.data);
-    if (text[0] == '\0') return;
+    const bool isEmpty = *text.data() == '\0';
+    ++(isEmpty ? section.empty : section.data);
+    if (isEmpty || !walksLines_) return;
     now_.isOpen = true;
     now_.isBlank = *SkipBlanks(text.data()) == '\0';
     switch (PlainOf(*section_)) {
@@ -102,10 +103,11 @@ void ImportAudit::OnLine(std::string_view text, bool isCut)
 // Only the line after the header is read, even if it is a header itself.
 void ImportAudit::ReadSetting(std::string_view text)
 {
-    const bool isHeader = text[0] == '#';
+    const char first = *text.data();  // a NUL where there is none
+    const bool isHeader = first == '#';
     const bool isEmpty = *SkipBlanks(text.data()) == '\0';
     SectionBalance& section = balance_.Of(*section_);
-    if (!isHeader) ++(text[0] == '\0' ? section.empty : section.data);
+    if (!isHeader) ++(first == '\0' ? section.empty : section.data);
     if (*section_ == SectionHeader::kVersion) version_ = AnsiToUtf8(text);
     const Column* const column = SettingOf(*section_);
     if (column == nullptr || isEmpty || isHeader) {
@@ -211,6 +213,7 @@ void ImportAudit::Drop(Finding why)
 
 void ImportAudit::OnFinding(tamur::Finding finding)
 {
+    if (!walksLines_) return;
     const WalkedLine& walked = walk_.Last();
     const Problem& problem = walked.problem;
     constexpr std::uint8_t kPointsGroup = 1;
@@ -437,7 +440,7 @@ void ImportAudit::Finish(const std::string& path)
     }
     FinishFile(tail);
     FinishBalance(tail);
-    if (refusal_) return;
+    if (refusal_ || !walksLines_) return;
     FinishTables();
     lineFindings_.Finish(balance_);
     FinishSections();

@@ -20,11 +20,9 @@ bool SurvivesConversion(const std::string& utf8Path)
     return ToUtf8(platform::WidenPath(narrow)) == utf8Path;
 }
 
-}  // namespace
-
-ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
+ImportedFile Import(const std::string& utf8Path, Findings& findings, bool walksLines)
 {
-    ImportAudit audit(findings);
+    ImportAudit audit(findings, walksLines);
     ImportedFile imported;
     if (!SurvivesConversion(utf8Path)) {
         imported.refusal = Finding{.code = Code::kNameNotConvertible};
@@ -44,6 +42,19 @@ ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
     imported.balance = audit.TheBalance();
     imported.lines = std::move(audit.Lines());
     return imported;
+}
+
+}  // namespace
+
+ImportedFile ImportFile(const std::string& utf8Path, Findings& findings)
+{
+    return Import(utf8Path, findings, true);
+}
+
+ImportedFile ImportFile(const std::string& utf8Path)
+{
+    Findings findings(0);
+    return Import(utf8Path, findings, false);
 }
 
 }  // namespace tamur::host

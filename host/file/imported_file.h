@@ -27,4 +27,7 @@ struct ImportedFile {
 // std::bad_alloc.
 [[nodiscard]] ImportedFile ImportFile(const std::string& utf8Path, Findings& findings);
 
+// The same without looking at the lines: no balance, no lines of records, a fraction of the time.
+[[nodiscard]] ImportedFile ImportFile(const std::string& utf8Path);
+
 }  // namespace tamur::host

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
 
 namespace tamur::host {
 namespace {
@@ -20,19 +21,26 @@ class Scale {
         const double quarters = sample[sample.size() * 3 / 4] - sample[sample.size() / 4];
         const double whole = sample.back() - sample.front();
         const double width = quarters > 0 ? 2 * quarters : whole;
-        factor_ = width > 0 ? 1 / width : 0;
+        factor_ = std::isfinite(1 / width) ? 1 / width : 0;
     }
 
     [[nodiscard]] std::uint64_t operator()(double coordinate) const
     {
         const double place = (coordinate - middle_) * factor_;
-        const double bounded = place / (1 + std::abs(place));  // from -1 to 1
+        const double bounded =  // from -1 to 1
+            std::isinf(place) ? std::copysign(1.0, place) : place / (1 + std::abs(place));
         return static_cast<std::uint64_t>((bounded + 1) * (0.5 * ((1 << kBits) - 1)));
     }
 
  private:
     double middle_, factor_;
 };
+
+// Twice its middle; of a box around nothing, which may be anywhere, the origin.
+Point MiddleOf(const Box& box)
+{
+    return box.low.x <= box.high.x ? box.low + box.high : Point();
+}
 
 // Two zeros after each bit.
 std::uint64_t Spread(std::uint64_t bits)
@@ -123,16 +131,18 @@ void BoxTree::SortByPlace(const std::vector<Box>& boxes)
     std::array<std::vector<double>, 3> samples;
     const std::size_t step = boxes.size() / kSample + 1;
     for (std::size_t i = 0; i < boxes.size(); i += step) {
-        samples[0].push_back(boxes[i].low.x + boxes[i].high.x);
-        samples[1].push_back(boxes[i].low.y + boxes[i].high.y);
-        samples[2].push_back(boxes[i].low.z + boxes[i].high.z);
+        const Point middle = MiddleOf(boxes[i]);
+        samples[0].push_back(middle.x);
+        samples[1].push_back(middle.y);
+        samples[2].push_back(middle.z);
     }
     const Scale x(std::move(samples[0])), y(std::move(samples[1])), z(std::move(samples[2]));
     std::vector<Keyed> items;
     items.reserve(boxes.size());
     for (const Box& box : boxes) {
-        const Point sum = box.low + box.high;
-        const std::uint64_t key = Spread(x(sum.x)) | Spread(y(sum.y)) << 1 | Spread(z(sum.z)) << 2;
+        const Point middle = MiddleOf(box);
+        const std::uint64_t key =
+            Spread(x(middle.x)) | Spread(y(middle.y)) << 1 | Spread(z(middle.z)) << 2;
         items.push_back({key, static_cast<std::uint32_t>(items.size())});
     }
     SortByKey(items);

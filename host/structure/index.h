@@ -3,6 +3,10 @@
 
 #include <cstdint>
 
+// First, for its Kind::kNone: GCC 12 takes an enumerator for one that hides what is already
+// declared.
+#include "host/kinds.h"
+
 namespace tamur::host {
 
 using Index = std::uint32_t;

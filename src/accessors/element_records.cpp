@@ -1,7 +1,6 @@
-#include <cmath>
 #include <cstring>
-#include <limits>
 
+#include "accessors/bar_values.h"
 #include "accessors/served_tables.h"
 #include "accessors/type_names.h"
 
@@ -20,25 +19,11 @@ LONG ToPublic(std::uint32_t identifier)
     return static_cast<LONG>(identifier);
 }
 
-// Whole units, cut; the largest number when there are more.
-LONG TruncatedLength(const Segment& line)
-{
-    const double x = line.end.x - line.start.x;
-    const double y = line.end.y - line.start.y;
-    const double z = line.end.z - line.start.z;
-    const double length = std::sqrt(x * x + y * y + z * z);
-    constexpr LONG kLargest = std::numeric_limits<LONG>::max();
-    return length < kLargest ? static_cast<LONG>(length) : kLargest;
-}
-
 // Null when there is no remark.
-BSTR RemarkText(BarRemarks remarks, HostCopy& host)
+BSTR RemarkOf(const Bar& bar, HostCopy& host)
 {
-    if (remarks.missingSection && remarks.turnedSection) {
-        return host.String(OLESTR("#Section doesn't exist.#Verify H section!!!"));
-    }
-    if (remarks.missingSection) return host.String(OLESTR("#Section doesn't exist."));
-    return remarks.turnedSection ? host.String(OLESTR("#Verify H section!!!")) : nullptr;
+    const WideStringView text = BarRemarkText(bar.remarks);
+    return text.empty() ? nullptr : host.String(text);
 }
 
 // Some element types are texts of which only the length means anything.
@@ -76,15 +61,15 @@ void Copy(const Bar& from, const BarTables& tables, HostCopy& host, TMRFilaire& 
     to.GroupNumber = from.group;
     to.ElemLabels = host.Labels(from.labels);
     to.ElementType = host.String(BarTypeName(from.type));
-    to.ErrorMessage = RemarkText(from.remarks, host);
+    to.ErrorMessage = RemarkOf(from, host);
     to.MeshStep = from.meshStep;
-    to.RealLength = TruncatedLength(from.line);
+    to.RealLength = WholeLength(LengthOf(from.line));
     CopyReferred(tables.sections.all, from.startSection, host, to.StartSection);
     CopyReferred(tables.sections.all, from.endSection, host, to.EndSection);
     CopyReferred(tables.releases, from.startRelease, host, to.StartConnection);
     CopyReferred(tables.releases, from.endRelease, host, to.EndConnection);
     CopyReferred(tables.materials, from.material, host, to.FilaireMaterial);
-    to.CogPosition = host.String(OLESTR("CentreCentre"));
+    to.CogPosition = host.String(kBarAxisPosition);
     to.Angle = from.angle;
     to.OrientationNode = from.orientationNode;
     to.Excentration = static_cast<TMRFilaireExcentration>(from.offset);

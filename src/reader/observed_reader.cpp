@@ -19,4 +19,9 @@ void ForgetObserver(ITAMURStructureReader& reader)
     static_cast<CTAMURStructureReader&>(reader).ForgetObserver();
 }
 
+const Model& ModelOf(const ITAMURStructureReader& reader)
+{
+    return static_cast<const CTAMURStructureReader&>(reader).TheModel();
+}
+
 }  // namespace tamur

@@ -5,6 +5,7 @@
 #include <tamur/com_ptr.h>
 
 #include "import/observer.h"
+#include "model/model.h"
 
 namespace tamur {
 
@@ -15,5 +16,8 @@ namespace tamur {
 // The reader, which NewObservedReader made, may outlive its observer from here on, further imports
 // included.
 void ForgetObserver(ITAMURStructureReader& reader);
+
+// What was imported into the reader, which NewObservedReader made, without the copies of records.
+[[nodiscard]] const Model& ModelOf(const ITAMURStructureReader& reader);
 
 }  // namespace tamur

@@ -13,6 +13,7 @@ class CTAMURStructureReader : public AccessorGetters, public ISupportErrorInfo {
     // `observer` follows the imports and must outlive them.
     explicit CTAMURStructureReader(ImportObserver& observer) : observer_(&observer) {}
     void ForgetObserver() { observer_ = nullptr; }
+    [[nodiscard]] const Model& TheModel() const { return model_; }
 
     IUnknown* FindInterface(REFIID riid);
 

@@ -1,5 +1,7 @@
 // Writes models into a folder, 00000.txt and on: the first half are seeds with one change, taken
-// evenly from all that there are, the others are generated. usage: write_models FOLDER COUNT
+// evenly from all that there are, the others are generated. With "hostile", files made to be slow
+// to read or to take much memory follow, small ones. usage: write_models FOLDER COUNT [hostile]
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -12,6 +14,8 @@
 #include "models/changes.h"
 #include "models/seeds.h"
 #include "models/generated.h"
+#include "models/hostile_families.h"
+#include "support/model_text.h"
 
 namespace tamur::test {
 namespace {
@@ -56,16 +60,34 @@ void WriteChanged(ModelFolder& folder, std::size_t count)
     }
 }
 
+void WriteHostile(ModelFolder& folder)
+{
+    constexpr int kSmaller = 2000;  // than what takes some tens of milliseconds
+    constexpr int kLines = 20;
+    for (const bench::HostileFamily& family : bench::HostileFamilies()) {
+        std::string text = ModelText().Text();
+        family.write(text, std::max(family.size / kSmaller, 2));
+        folder.Add(text);
+    }
+    for (const bench::MinimalLine& minimal : bench::MinimalLines()) {
+        std::string text = ModelText().Text() + minimal.sections;
+        for (int i = 0; i < kLines; ++i) text += minimal.line;
+        folder.Add(text);
+    }
+}
+
 }  // namespace
 }  // namespace tamur::test
 
 int main(int argumentCount, char** arguments)
 {
     using namespace tamur::test;
-    if (argumentCount != 3) return 2;
+    const bool isHostileToo = argumentCount == 4 && std::string(arguments[3]) == "hostile";
+    if (argumentCount != 3 && !isHostileToo) return 2;
     ModelFolder folder(arguments[1]);
     const std::size_t count = std::strtoul(arguments[2], nullptr, 10);
     WriteChanged(folder, count / 2);
     while (folder.Count() < count) folder.Add(GeneratedModel(folder.Count()));
+    if (isHostileToo) WriteHostile(folder);
     return 0;
 }

@@ -1,0 +1,134 @@
+"""A model that was read from a file."""
+from __future__ import annotations
+
+import html
+import os
+import sys
+import tempfile
+from typing import IO, TYPE_CHECKING, Any, Optional, TypeVar, Union
+
+from ._library import ModelHandle
+from ._loads import Loads
+from ._row import Row
+from ._table import Table
+from ._tables import FindingCounts, Findings, Messages, Modal, ModelTables, Settings
+
+if TYPE_CHECKING:
+    Source = Union[str, os.PathLike[str], bytes, bytearray, memoryview, IO[bytes]]
+
+_Table = TypeVar("_Table", bound=Table)
+
+
+class Model(ModelTables):
+    """What a model file holds. Tables are read when they are first asked for, and stay."""
+
+    def __init__(self, handle: ModelHandle, source: str, is_checked: bool) -> None:
+        self._handle = handle
+        self._is_checked = is_checked
+        self._tables: dict[Any, Any] = {}
+        #: The file, as it was named.
+        self.source = source
+
+    def _table(self, kind: type[_Table]) -> _Table:
+        if kind not in self._tables:
+            table = kind(self._handle.table(kind.layout.number))
+            self._tables.setdefault(kind, table)  # another thread may have been faster
+        made: _Table = self._tables[kind]
+        return made
+
+    @property
+    def settings(self) -> Row:
+        """Tolerance, working space, rigid in bending or not, version, service pack."""
+        return self._table(Settings)[0]
+
+    @property
+    def version(self) -> str:
+        """The version of the file, as it is written."""
+        return str(self.settings["version"])
+
+    @property
+    def modal(self) -> Row:
+        """The parameters of the modal analysis."""
+        return self._table(Modal)[0]
+
+    @property
+    def messages(self) -> list[str]:
+        """What the import says about load cases."""
+        return list(self._table(Messages)["text"])
+
+    @property
+    def findings(self) -> Findings:
+        """What is wrong with the file and the model in it; for models read with check=True."""
+        if not self._is_checked:
+            raise ValueError("nothing was looked for: read the file with check=True")
+        findings = self._table(Findings)
+        counts = self._table(FindingCounts)
+        findings.counts = dict(zip(counts["code"].tolist(), counts["count"].tolist()))
+        return findings
+
+    def loads(self, case: Optional[int] = None) -> Loads:
+        """The loads of the load case with that number, or all."""
+        return Loads(self, case)
+
+    def __reduce__(self) -> Any:
+        raise TypeError("a model does not travel between processes: read its file there")
+
+    def _summary(self) -> list[tuple[str, int]]:
+        names = [name for name, value in vars(ModelTables).items() if isinstance(value, property)]
+        return [(name, len(getattr(self, name))) for name in names if len(getattr(self, name))]
+
+    def __repr__(self) -> str:
+        counts = ", ".join(f"{count} {name}" for name, count in self._summary())
+        return f"<Model {self.source!r}, version {self.version}: {counts or 'nothing'}>"
+
+    def _repr_html_(self) -> str:
+        rows = "".join(f"<tr><td>{name}</td><td>{count}</td></tr>"
+                       for name, count in self._summary())
+        title = html.escape(f"{self.source}, version {self.version}")
+        return f"<table><caption>{title}</caption><tbody>{rows}</tbody></table>"
+
+
+def read(source: Source, *, check: bool = False) -> Model:
+    """Reads a model file: a path, the bytes of a file, or a file that is open in binary mode.
+
+    With `check` everything is looked for that is wrong with it: `findings` of the model. Raises
+    ImportRefused with the cause when it is no model file or cannot be read.
+    """
+    if isinstance(source, (str, os.PathLike)):
+        path = os.fsdecode(source)
+        if "\0" in path:
+            raise ValueError("a path with a NUL in it")
+        if _is_plain(path):
+            return Model(ModelHandle(path, check, path), path, check)
+        # The import would open another file, or none.
+        with open(path, "rb") as file:
+            return _read_bytes(file.read(), check, path)
+    if isinstance(source, (bytes, bytearray, memoryview)):
+        return _read_bytes(source, check, "<bytes>")
+    if hasattr(source, "read"):
+        content = source.read()
+        if not isinstance(content, (bytes, bytearray, memoryview)):
+            raise TypeError("a model file is opened in binary mode: open(name, 'rb')")
+        return _read_bytes(content, check, str(getattr(source, "name", "<file>")))
+    raise TypeError("a model file is a path, bytes, or an open file, not "
+                    + type(source).__name__)
+
+
+def _is_plain(path: str) -> bool:
+    """Whether the name survives the way to the system: as UTF-8, on Windows in the code page."""
+    try:
+        path.encode("mbcs" if sys.platform == "win32" else "utf-8")
+        return True
+    except UnicodeEncodeError:
+        return False
+
+
+def _read_bytes(content: Union[bytes, bytearray, memoryview], check: bool, source: str) -> Model:
+    # The import reads files, and reads them twice.
+    descriptor, path = tempfile.mkstemp(".txt", "tamur-")
+    try:
+        with os.fdopen(descriptor, "wb") as file:
+            file.write(content)
+        return Model(ModelHandle(path, check, source), source, check)
+    finally:
+        os.remove(path)
