@@ -12,7 +12,8 @@ inline constexpr LossText kAbsurdCoordinates = {
     LossType::kNot,
     {"a coordinate is no number, or beyond 1e9",
      "une coordonnée n'est pas un nombre, ou dépasse 1e9"}};
-inline constexpr LossText kNoArea = {LossType::kNot, {"it has no area", "sa surface est nulle"}};
+inline constexpr LossText kWithoutArea = {LossType::kNot,
+                                          {"it has no area", "sa surface est nulle"}};
 inline constexpr LossText kNoPlace = {
     LossType::kNot,
     {"it has no place of its own in the structure", "n'a pas de place propre dans la structure"}};
@@ -30,8 +31,8 @@ inline constexpr LossText kAreaDiffers = {
      "qui est dedans et non ouvert"}};
 inline constexpr LossText kOpensNothing = {
     LossType::kPartly,
-    {"it lies in no surface: only its outline is drawn",
-     "elle n'est dans aucun surfacique : seul son contour est dessiné"}};
+    {"it lies in no surface: nothing is cut out",
+     "elle n'est dans aucun surfacique : rien n'est découpé"}};
 inline constexpr LossText kLocalAsGlobal = {
     LossType::kAssumed,
     {"local loads in points are along the axes of the model",
@@ -40,7 +41,7 @@ inline constexpr LossText kLocalAsGlobal = {
 // What is to be said of a polygon that was cut; null when nothing is.
 [[nodiscard]] inline const LossText* LossOf(const std::optional<SurfaceCutter::Cut>& cut)
 {
-    if (!cut) return &kNoArea;
+    if (!cut) return &kWithoutArea;
     if (!cut->triangles.isComplete) return cut->triangles.corners.empty() ? &kNotCut : &kNoHoles;
     return cut->triangles.isAsDrawn ? nullptr : &kAreaDiffers;
 }

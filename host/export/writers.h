@@ -16,5 +16,7 @@ void WriteVtu(const Source& source, const std::filesystem::path& path, Output& o
               ExportReport& report);
 void WriteVtm(const Source& source, const std::filesystem::path& path, Output& output,
               ExportReport& report);
+void WriteGlb(const Source& source, const std::filesystem::path& path, Output& output,
+              ExportReport& report);
 
 }  // namespace tamur::host

@@ -47,8 +47,9 @@ PointMerger::PointMerger(double tolerance, Point origin, std::size_t count)
       slots_(kFirstSlots, kNone),
       mask_(kFirstSlots - 1)
 {
-    // Most corners are at a point that another has.
-    known_.reserve(count / 4);
+    // What is not used of it takes no memory; growing would take half as much again.
+    points_.reserve(count);
+    links_.reserve(count);
 }
 
 Point PointMerger::PlaceOf(Point point) const
@@ -59,8 +60,8 @@ Point PointMerger::PlaceOf(Point point) const
 void PointMerger::SearchSlot(std::uint32_t hash, Point point, std::uint32_t& nearest,
                              double& square)
 {
-    for (std::uint32_t i = SlotOf(hash); i != kNone; i = known_[i].next) {
-        const Point between = known_[i].point - point;
+    for (std::uint32_t i = SlotOf(hash); i != kNone; i = links_[i].next) {
+        const Point between = points_[i] - point;
         const double other = Dot(between, between);
         if (other > square || (other == square && i > nearest)) continue;
         square = other;
@@ -87,10 +88,11 @@ std::uint32_t PointMerger::NumberOf(Point point, std::uint32_t hash)
         }
     }
     if (nearest != kNone) return nearest;
-    if (known_.size() > mask_) Grow();
-    const auto number = static_cast<std::uint32_t>(known_.size());
+    if (points_.size() > mask_) Grow();
+    const auto number = static_cast<std::uint32_t>(points_.size());
     std::uint32_t& slot = SlotOf(hash);
-    known_.push_back({point, hash, slot});
+    points_.push_back(point);
+    links_.push_back({hash, slot});
     slot = number;
     return number;
 }
@@ -100,9 +102,9 @@ void PointMerger::Grow()
 {
     slots_.assign(2 * slots_.size(), kNone);
     mask_ = slots_.size() - 1;
-    for (std::uint32_t i = 0; i < known_.size(); ++i) {
-        std::uint32_t& slot = SlotOf(known_[i].hash);
-        known_[i].next = slot;
+    for (std::uint32_t i = 0; i < links_.size(); ++i) {
+        std::uint32_t& slot = SlotOf(links_[i].hash);
+        links_[i].next = slot;
         slot = i;
     }
 }
@@ -118,7 +120,7 @@ void PointMerger::AddBlock(std::span<const Point> points, std::vector<std::uint3
     }
     for (std::size_t i = 0; i < points.size(); ++i) {
         const std::uint32_t first = SlotOf(hashes[i]);
-        if (first != kNone) __builtin_prefetch(&known_[first]);
+        if (first != kNone) __builtin_prefetch(&points_[first]);
     }
     for (std::size_t i = 0; i < points.size(); ++i) {
         numbers.push_back(NumberOf(points[i], hashes[i]));
@@ -130,14 +132,6 @@ void PointMerger::AddNumbersOf(std::span<const Point> points, std::vector<std::u
     for (; !points.empty(); points = points.subspan(std::min(points.size(), kBlock))) {
         AddBlock(points.first(std::min(points.size(), kBlock)), numbers);
     }
-}
-
-std::vector<Point> PointMerger::Points() const
-{
-    std::vector<Point> points;
-    points.reserve(known_.size());
-    for (const Known& known : known_) points.push_back(known.point);
-    return points;
 }
 
 }  // namespace tamur::host

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "host/structure/geometry.h"
@@ -20,16 +21,14 @@ class PointMerger {
     // Appends the number of each point.
     void AddNumbersOf(std::span<const Point> points, std::vector<std::uint32_t>& numbers);
 
-    // Each number's point.
-    [[nodiscard]] std::vector<Point> Points() const;
+    // Each number's point. Nothing can be added after that.
+    [[nodiscard]] std::vector<Point> TakePoints() { return std::move(points_); }
 
  private:
     struct Cell {
         std::int64_t x, y, z;
     };
-    // In half a line of the cache.
-    struct Known {
-        Point point;
+    struct Link {
         std::uint32_t hash;
         std::uint32_t next;  // the one before it in its slot
     };
@@ -46,7 +45,8 @@ class PointMerger {
     Point origin_;
     std::vector<std::uint32_t> slots_;  // the last point of the cells with that hash
     std::size_t mask_;
-    std::vector<Known> known_;
+    std::vector<Point> points_;
+    std::vector<Link> links_;  // of each point
 };
 
 }  // namespace tamur::host

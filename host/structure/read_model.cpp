@@ -75,6 +75,39 @@ SupportCondition ConditionOf(BSTR name)
     return endsWith("vide") ? SupportCondition::kVoid : SupportCondition::kStop;
 }
 
+// The points of all elements, as written. They are given back as they are used: with what is made
+// of them they would be the most that a model takes.
+class WrittenPoints {
+ public:
+    void Add(Point point)
+    {
+        if (pieces_.empty() || pieces_.back().size() == kPiece) {
+            pieces_.emplace_back().reserve(std::min(expected_, kPiece));
+        }
+        pieces_.back().push_back(point);
+        ++size_;
+    }
+    void Expect(std::size_t count) { expected_ = count; }
+    [[nodiscard]] std::size_t Size() const { return size_; }
+
+    // Calls use(points) for one piece after the other.
+    template <class Use>
+    void TakeAll(const Use& use)
+    {
+        for (std::vector<Point>& piece : pieces_) {
+            use(std::span<const Point>(piece));
+            piece = {};
+        }
+    }
+
+ private:
+    // Of more than 32 MiB: smaller ones the C library may keep for itself.
+    static constexpr std::size_t kPiece = 1'400'000;
+
+    std::vector<std::vector<Point>> pieces_;
+    std::size_t size_ = 0, expected_ = 0;
+};
+
 // Reads table by table; the points are gathered as written, and merged when all are known.
 class ModelReader {
  public:
@@ -108,10 +141,14 @@ class ModelReader {
                                      SizeOf<TMRParoi>() + SizeOf<TMRChargeSurfacique>();
         const std::size_t lines = SizeOf<TMRFilaire>() + SizeOf<TMRChargeLineaire>();
         const std::size_t points = SizeOf<TMRNode>() + SizeOf<TMRChargePonctuelle>();
-        written_.reserve(4 * polygons + 2 * lines + points + 1000);
+        written_.Expect(4 * polygons + 2 * lines + points + 1000);
         structure_.nodes.reserve(SizeOf<TMRNode>());
         structure_.bars.reserve(SizeOf<TMRFilaire>());
         structure_.surfaces.reserve(SizeOf<TMRSurfacique>());
+        structure_.openings.reserve(SizeOf<TMROuverture>());
+        structure_.walls.reserve(SizeOf<TMRParoi>());
+        structure_.supports.reserve(SizeOf<TMRAppuiPonctuel>() + SizeOf<TMRAppuiLineaire>() +
+                                    SizeOf<TMRAppuiSurfacique>());
         structure_.loads.reserve(SizeOf<TMRChargePonctuelle>() + SizeOf<TMRChargeLineaire>() +
                                  SizeOf<TMRChargeSurfacique>());
     }
@@ -134,16 +171,18 @@ class ModelReader {
         element.kind = kind;
         element.rank = rank;
         element.identifier = IdentifierOf(identifier);
-        element.firstCorner = static_cast<Index>(written_.size());
+        element.firstCorner = static_cast<Index>(written_.Size());
         return element;
     }
     void AddPoint(Element& element, const TMR3DPnt& point)
     {
-        written_.push_back(PointOf(point));
-        ++element.cornerCount;
-        if (IsSensible(written_.back())) return around_.Add(written_.back());
+        if (element.cornerCount++ == 0) corners_.clear();
+        const Point written = PointOf(point);
+        corners_.push_back(written);
+        written_.Add(written);
+        if (IsSensible(written)) return around_.Add(written);
         element.isUsable = false;
-        structure_.absurd.try_emplace(element.firstCorner, GreatestOf(written_.back()));
+        structure_.absurd.try_emplace(element.firstCorner, GreatestOf(written));
     }
     void AddPoints(Element& element, const TMR3DLine& line)
     {
@@ -154,11 +193,6 @@ class ModelReader {
     {
         for (int i = 0; i < polygon.nbPoints; ++i) AddPoint(element, polygon.tabPoints[i]);
     }
-    [[nodiscard]] std::span<const Point> WrittenOf(const Element& element) const
-    {
-        return std::span<const Point>(written_).subspan(element.firstCorner, element.cornerCount);
-    }
-
     void ReadProperties();
     void ReadNodes();
     void ReadBars();
@@ -167,6 +201,7 @@ class ModelReader {
     void ReadSupports();
     void ReadLoads();
     void ReadGroupLoads();
+    void AddCorners(PointMerger& merger, std::span<const Point> points);
     void MergePoints();
 
     Surface ReadPolygon(Kind kind, Index rank, LONG identifier, const TMR3DPlanarElement& polygon);
@@ -177,8 +212,9 @@ class ModelReader {
 
     ITAMURStructureReader& reader_;
     Structure structure_;
-    std::vector<Point> written_;
-    Box around_;  // the sensible ones
+    WrittenPoints written_;
+    std::vector<Point> corners_;  // of the element that is read
+    Box around_;                  // the sensible ones
     PropertyIndex materials_, sections_, releases_;
 };
 
@@ -246,8 +282,8 @@ Surface ModelReader::ReadPolygon(Kind kind, Index rank, LONG identifier,
 {
     Surface surface = Begin<Surface>(kind, rank, identifier);
     AddPoints(surface, polygon);
-    if (!surface.isUsable) return surface;
-    const Polygon shape(WrittenOf(surface));
+    if (!surface.isUsable || surface.cornerCount == 0) return surface;
+    const Polygon shape(corners_);
     surface.plane = shape.ThePlane();
     surface.area = shape.Area();
     surface.perimeter = shape.Perimeter();
@@ -369,15 +405,16 @@ void ModelReader::ReadLoads()
         load.values = {record.Fx, record.Fy, record.Fz, record.Mx, record.My, record.Mz};
         load.intensity = (record.intensityDebut + record.intensityFin) / 2;
         AddPoints(load, record.Geometrie);
-        load.size = Length(WrittenOf(load)[1] - WrittenOf(load)[0]);
+        load.size = Length(corners_[1] - corners_[0]);
         structure_.loads.push_back(load);
     });
     ForEach<TMRChargeSurfacique>([this](TMRChargeSurfacique& record, Index rank) {
         Load load = ReadLoad(Kind::kSurfaceLoad, rank, record);
         AddPoints(load, record.Geometrie);
-        const Polygon shape(WrittenOf(load));
+        if (load.cornerCount == 0) corners_.clear();
+        const Polygon shape(corners_);
         load.size = shape.Area();
-        load.intensity = MeanIntensity(WrittenOf(load), shape.Centroid(), record);
+        load.intensity = MeanIntensity(corners_, shape.Centroid(), record);
         structure_.loads.push_back(load);
     });
     ForEach<TMRMasse>([this](TMRMasse& record, Index rank) {
@@ -416,24 +453,31 @@ void ModelReader::ReadGroupLoads()
     });
 }
 
+void ModelReader::AddCorners(PointMerger& merger, std::span<const Point> points)
+{
+    // What is between those that cannot be meant: usually all.
+    while (!points.empty()) {
+        const auto end = structure_.absurd.empty()
+                             ? points.end()
+                             : std::find_if_not(points.begin(), points.end(), IsSensible);
+        const auto count = static_cast<std::size_t>(end - points.begin());
+        merger.AddNumbersOf(points.first(count), structure_.corners);
+        points = points.subspan(count);
+        if (points.empty()) break;
+        structure_.corners.push_back(kNone);
+        points = points.subspan(1);
+    }
+}
+
 void ModelReader::MergePoints()
 {
     TMRStructureData settings = {};
     Check(reader_.GetStructureGlobalData(&settings), "GetStructureGlobalData");
     SetTolerances(structure_, settings.tol3D, around_.Diagonal());
-    PointMerger merger(structure_.tolerance, around_.low, written_.size());
-    structure_.corners.reserve(written_.size());
-    // What is between those that cannot be meant: usually all.
-    for (auto place = written_.begin(); place != written_.end();) {
-        const auto end = structure_.absurd.empty()
-                             ? written_.end()
-                             : std::find_if_not(place, written_.end(), IsSensible);
-        merger.AddNumbersOf({place, end}, structure_.corners);
-        if (end == written_.end()) break;
-        structure_.corners.push_back(kNone);
-        place = end + 1;
-    }
-    structure_.points = merger.Points();
+    PointMerger merger(structure_.tolerance, around_.low, written_.Size());
+    structure_.corners.reserve(written_.Size());
+    written_.TakeAll([&](std::span<const Point> points) { AddCorners(merger, points); });
+    structure_.points = merger.TakePoints();
     for (Bar& bar : structure_.bars) {
         if (!bar.isUsable) continue;
         bar.start = structure_.corners[bar.firstCorner];

@@ -54,7 +54,7 @@ TEST(PointMerger, MergesAsASearchThroughAllPointsWould)
         merger.AddNumbersOf(std::span(points).first(1001), numbers);
         merger.AddNumbersOf(std::span(points).subspan(1001), numbers);
         EXPECT_EQ(numbers, NumbersBySearch(points, 1)) << width;
-        EXPECT_EQ(merger.Points().size(), *std::max_element(numbers.begin(), numbers.end()) + 1);
+        EXPECT_EQ(merger.TakePoints().size(), *std::max_element(numbers.begin(), numbers.end()) + 1);
     }
 }
 
@@ -64,7 +64,7 @@ TEST(PointMerger, KeepsTheFirstOfMergedPoints)
     Numbers numbers;
     merger.AddNumbersOf(std::vector<Point>{{5, 5, 5}, {9, 5, 5}, {5.5, 5, 5}}, numbers);
     EXPECT_EQ(numbers, (Numbers{0, 1, 0}));
-    EXPECT_EQ(merger.Points(), (std::vector<Point>{{5, 5, 5}, {9, 5, 5}}));
+    EXPECT_EQ(merger.TakePoints(), (std::vector<Point>{{5, 5, 5}, {9, 5, 5}}));
 }
 
 }  // namespace
