@@ -29,12 +29,17 @@ void JsonWriter::Text(std::string_view text)
 
 void JsonWriter::Text(WideStringView text)
 {
-    const auto isPlain = [](OLECHAR c) { return c < 0x80; };
-    if (!std::all_of(text.begin(), text.end(), isPlain)) return Text(ToUtf8(text));
+    constexpr std::size_t kShort = 1000;
+    const auto isPlain = [](OLECHAR c) { return c >= 0x20 && c < 0x80 && c != '"' && c != '\\'; };
+    if (text.size() > kShort || !std::all_of(text.begin(), text.end(), isPlain)) {
+        return Text(ToUtf8(text));
+    }
     Separate();
-    Put('"');
-    for (const OLECHAR c : text) PutCharacter(static_cast<char>(c));
-    Put('"');
+    char* at = Room(text.size() + 2);
+    *at++ = '"';
+    for (const OLECHAR c : text) *at++ = static_cast<char>(c);
+    *at++ = '"';
+    Use(at);
 }
 
 void JsonWriter::PutCharacter(char c)

@@ -3,6 +3,7 @@
 
 #include <tamur/utf8.h>
 
+#include <algorithm>
 #include <charconv>
 #include <concepts>
 #include <ostream>
@@ -28,13 +29,16 @@ class JsonWriter {
         Put(bracket);
         isFirst_ = false;
     }
-    // A name that needs no escapes.
+    // A short name that needs no escapes.
     void Key(std::string_view name)
     {
-        Separate();
-        Put('"');
-        Put(name);
-        Put("\":");
+        char* at = Room(name.size() + 4);
+        if (!isFirst_) *at++ = ',';
+        *at++ = '"';
+        at = std::copy(name.begin(), name.end(), at);
+        *at++ = '"';
+        *at++ = ':';
+        Use(at);
         isFirst_ = true;
     }
     // JSON has no word for what is no finite number: "inf", "-inf", "nan".
@@ -74,6 +78,13 @@ class JsonWriter {
         if (!isFirst_) Put(',');
         isFirst_ = false;
     }
+    // A place for so many characters, fewer than the buffer has, and how far it was used.
+    char* Room(std::size_t size)
+    {
+        if (buffer_.size() - used_ < size) Flush();
+        return buffer_.data() + used_;
+    }
+    void Use(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
     void Put(char c)
     {
         if (used_ == buffer_.size()) Flush();
@@ -90,9 +101,8 @@ class JsonWriter {
     void PutNumber(Value number)
     {
         constexpr std::size_t kMostDigits = 32;
-        if (buffer_.size() - used_ < kMostDigits) Flush();
-        char* const at = buffer_.data() + used_;
-        used_ += static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, number).ptr - at);
+        char* const at = Room(kMostDigits);
+        Use(std::to_chars(at, at + kMostDigits, number).ptr);
     }
 
     std::ostream& out_;
