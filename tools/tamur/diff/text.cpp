@@ -220,7 +220,7 @@ class Teller {
 
     [[nodiscard]] std::string ValueText(const host::Value& value) const
     {
-        return std::visit([&](const auto& is) { return TextOf(is); }, value.is);
+        return std::visit([this](const auto& is) { return TextOf(is); }, value.is);
     }
     [[nodiscard]] std::string TextOf(std::monostate) const { return words_.none; }
     [[nodiscard]] static std::string TextOf(long long number) { return std::to_string(number); }
