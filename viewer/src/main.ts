@@ -59,7 +59,7 @@ class App {
         this.build();
         this.follow();
         if (address.eye && this.stage) this.stage.view.eye = address.eye;
-        else if (address.item) this.stage?.view.fit(this.model.placeOf(address.item));
+        else if (address.item) this.goTo(address.item);
         window.addEventListener('hashchange', () => this.goToAddress());
         matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () => this.setColours());
     }
@@ -73,7 +73,7 @@ class App {
             model: this.model, findings: this.findings, levels: this.levels, store: this.store, texts, language: this.language,
             stage: this.stage, colouring: () => this.colouring,
             goTo: (item) => this.goTo(item), select: (item, isAdded) => this.select(item, isAdded),
-            say: (text) => this.say(text),
+            measureCovered: () => this.measureCovered(), say: (text) => this.say(text),
         };
         // Before what shows the legend.
         this.store.on(['colourBy'], () => {
@@ -110,7 +110,8 @@ class App {
         };
         resize();
         new ResizeObserver(resize).observe(place);
-        if (!this.hasFitted) stage.view.look('iso');
+        this.measureCovered();
+        if (!this.hasFitted) stage.view.look(stage.view.firstView);
         this.hasFitted = true;
     }
     private hasFitted = false;
@@ -133,7 +134,23 @@ class App {
             });
         }
         const place = this.model.placeOf(item);
+        this.measureCovered();
         if (place.length > 0) this.stage?.view.fit(place);
+    }
+
+    // Where details and tools are in front of the picture.
+    private measureCovered(): void {
+        const view = this.stage?.view;
+        const details = document.querySelector<HTMLElement>('.details');
+        const tools = document.querySelector<HTMLElement>('.toolbar');
+        if (!view || !details || !tools) return;
+        const picture = view.canvas.getBoundingClientRect();
+        const panel = details.getBoundingClientRect();
+        const isBeside = !details.hidden && panel.top < picture.bottom && panel.left > picture.left + 0.4 * picture.width;
+        view.covered = {
+            right: isBeside ? picture.right - panel.left : 0,
+            top: Math.max(0, tools.getBoundingClientRect().bottom - picture.top),
+        };
     }
 
     private select(item: Item | undefined, isAdded = false): void {

@@ -47,12 +47,18 @@ bool IsPage(const fs::path& path)
     return file && beginning == host::view::PageBeginning();
 }
 
+// Not the folders: a page is passed on.
+std::string NameOf(const Input& input)
+{
+    return host::Utf8Of(host::PathOf(input.Name()).filename());
+}
+
 std::string MakePage(const Input& input, const Console& console)
 {
     const Progress progress(console.errors, console.isErrorsTerminal,
                             "tamur: reading " + input.Name());
     host::Findings findings(kShownOfEach);
-    host::view::PageOfAFile page = host::view::PageOfFile(input.Path(), input.Name(), findings);
+    host::view::PageOfAFile page = host::view::PageOfFile(input.Path(), NameOf(input), findings);
     if (page.trouble) throw ImportRefused(input, *page.trouble);
     return std::move(page.html);
 }

@@ -23,7 +23,7 @@ int lightOf(uint item) {
     colour = vec4(mix(state.rgb, paint.rgb, paint.a), 1.0);
     number = item + 1u;
     if (state.a < 0.25) return 0;
-    if (picking) return 1;
+    if (picking || paint.a > 0.5) return 1;
     if (state.a < 0.75) { colour.rgb = selectedColour; return 3; }
     if (item == hovered) { colour.rgb = mix(colour.rgb, selectedColour, 0.6); return 2; }
     return 1;

@@ -1,6 +1,7 @@
 // The model on the screen: what is drawn, and when it is drawn anew.
 import type { Group, Object3D } from 'three';
 
+import type { Point } from '../data/table';
 import type { Findings } from '../findings';
 import { type Bars, kBars } from '../geometry/bars';
 import { kGlobal } from '../geometry/frames';
@@ -70,7 +71,7 @@ export class Stage {
         const shows = (table: string): boolean => state.shownKinds.has(table) && model.tableOf(kind(table)).rows > 0;
         this.draw('bars', shows('Filaires') ? 'yes' : '', () => ({ lines: drawBarAxes(model, shared) }));
         this.drawProfiles(state);
-        const opacity = state.solids || state.thickness ? 1 : 0.34;
+        const opacity = state.thickness ? 1 : 0.34;
         this.draw('surfaces', shows('Surfaciques') || shows('Ouvertures') ? `${state.thickness} ${opacity}` : '',
             () => drawSurfaces(model, shared, { isThick: state.thickness, opacity }));
         this.draw('supports', ['AppuisPonctuels', 'AppuisLineaires', 'AppuisSurfaciques'].some(shows) ? 'yes' : '',
@@ -176,6 +177,13 @@ export class Stage {
             at(clip.low[0], low.x, high.x), at(clip.low[1], low.y, high.y), at(clip.low[2], low.z, high.z));
         this.shared.clipHigh.value.set(
             at(clip.high[0], low.x, high.x), at(clip.high[1], low.y, high.y), at(clip.high[2], low.z, high.z));
+    }
+
+    // Whether the clipping leaves the point.
+    shows({ x, y, z }: Point): boolean {
+        const { clipLow, clipHigh } = this.shared;
+        const [low, high] = [clipLow.value, clipHigh.value];
+        return x >= low.x && y >= low.y && z >= low.z && x <= high.x && y <= high.y && z <= high.z;
     }
 
     pick(x: number, y: number): Item | undefined {

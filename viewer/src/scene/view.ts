@@ -44,6 +44,8 @@ export class View {
     onFrame: () => void = () => undefined;
     onMove: () => void = () => undefined;
     onLost: () => void = () => undefined;
+    // Pixels that something else covers: what is fitted is beside it.
+    covered = { right: 0, top: 0 };
 
     private readonly perspective = new PerspectiveCamera(kFieldOfView, 1, 0.1, 1000);
     private readonly orthographic = new OrthographicCamera(-1, 1, 1, -1, -1000, 1000);
@@ -171,6 +173,13 @@ export class View {
         this.request();
     }
 
+    // What a plane model is drawn in, else from aside.
+    get firstView(): StandardView {
+        const size = new Box3().setFromPoints(this.corners).getSize(new Vector3());
+        const isFlat = (extent: number): boolean => extent < 1e-3 * this.radius;
+        return isFlat(size.z) ? 'top' : isFlat(size.y) ? 'front' : isFlat(size.x) ? 'right' : 'iso';
+    }
+
     // Turns to a standard view and shows all.
     look(view: StandardView): void {
         const { x, y, z } = kStandardViews[view];
@@ -195,7 +204,8 @@ export class View {
         this.camera.position.copy(target).addScaledVector(direction, distance);
         this.frameOrthographic();
         this.controls.update();
-        this.request();
+        this.camera.updateMatrixWorld();
+        this.shift(this.covered.right / 2 / this.height, this.covered.top / 2 / this.height);
     }
 
     // The corners of a box around the points, with what is next to them.
@@ -211,7 +221,8 @@ export class View {
     // fill the picture; an orthographic camera gets its zoom.
     private centreOn(points: Vector3[], target: Vector3): number {
         const slope = Math.tan(kHalfField);
-        const [slopeX, slopeY] = [(slope * this.width * kFilled) / this.height, slope * kFilled];
+        const [wide, high] = [this.width - this.covered.right, this.height - this.covered.top];
+        const [slopeX, slopeY] = [(slope * wide * kFilled) / this.height, (slope * high * kFilled) / this.height];
         const { matrixWorld, matrixWorldInverse } = this.camera;
         const distance = this.camera.position.distanceTo(target);
         const seen = new Box3();
@@ -228,7 +239,7 @@ export class View {
         target.addScaledVector(new Vector3().setFromMatrixColumn(matrixWorld, 1), middle.y);
         if (!this.isOrthographic) return needed;
         const size = seen.getSize(new Vector3());
-        const half = Math.max(size.y / 2, (size.x / 2) * (this.height / this.width)) / kFilled;
+        const half = (Math.max(size.y / high, size.x / wide) * this.height) / 2 / kFilled;
         this.orthographic.zoom = this.radius / Math.max(half, 1e-9);
         return 4 * this.radius;
     }

@@ -19,8 +19,12 @@ export interface Actions {
 export function makeActions(context: Context, overlay: () => Overlay | undefined): Actions {
     const { store, model, stage, texts } = context;
     return {
-        look: (view) => stage?.view.look(view),
+        look: (view) => {
+            context.measureCovered();
+            stage?.view.look(view);
+        },
         fit: () => {
+            context.measureCovered();
             const points = store.state.selected.flatMap((number) => {
                 const item = model.itemOf(number);
                 return item ? model.placeOf(item) : [];

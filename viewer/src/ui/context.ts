@@ -20,5 +20,6 @@ export interface Context {
     goTo: (item: Item) => void;
     // What a click on it does, here or in a list: `isAdded` keeps what was selected.
     select: (item: Item | undefined, isAdded?: boolean) => void;
+    measureCovered: () => void; // before something is fitted into the picture
     say: (text: string) => void; // for people who listen and for those who look
 }

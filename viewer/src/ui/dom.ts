@@ -45,11 +45,14 @@ export function button(text: string, click: () => void, attributes: Attributes =
     return h('button', { type: 'button', click, ...attributes }, text);
 }
 
-export function checkbox(text: string, checked: boolean, change: (checked: boolean) => void, ...more: Child[]): HTMLLabelElement {
+// `sign` is between the box and the text, `more` after it.
+export function checkbox(
+    text: string, checked: boolean, change: (checked: boolean) => void, sign?: Child, ...more: Child[]
+): HTMLLabelElement {
     const box = h('input', {
         type: 'checkbox', checked, change: (event: Event) => change((event.target as HTMLInputElement).checked),
     });
-    return h('label', { class: 'check' }, box, h('span', { class: 'grow' }, text), ...more);
+    return h('label', { class: 'check' }, box, sign, h('span', { class: 'grow' }, text), ...more);
 }
 
 export function swatch([red, green, blue]: readonly [number, number, number]): HTMLElement {

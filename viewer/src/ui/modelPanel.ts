@@ -30,7 +30,7 @@ export function makeModelPanel(context: Context, element: HTMLElement): void {
         ...(context.levels.heights.length > 1 ? [section(texts.levels, false, levels)] : []));
     const { store } = context;
     store.on(['colourBy', 'hidden', 'theme'], () => listLegend(context, legend));
-    store.on(['shownKinds'], () => listKinds(context, kinds));
+    store.on(['shownKinds', 'colourBy'], () => listKinds(context, kinds));
     store.on(['hidden'], () => listLevels(context, levels));
     store.on(['solids', 'thickness', 'releases', 'axes', 'labels', 'markers'], () => listDisplay(context, display));
 }
@@ -68,7 +68,7 @@ function listLegend(context: Context, element: HTMLElement): void {
         }, { class: 'link only', 'aria-label': `${texts.onlyThis} ${category.name}` });
         return h('li', {}, checkbox(category.name,
             isShown, (shows) => store.change({ hidden: changed(store.state.hidden, category.key, !shows) }),
-            h('span', { class: 'count' }, category.count), swatch(category.colour)), only);
+            swatch(category.colour), h('span', { class: 'count' }, category.count)), only);
     };
     fill(element, h('ul', { class: 'list', 'aria-label': texts.legend }, ...categories.slice(0, kMostListed).map(entry)),
         categories.length > kMostListed ? h('p', { class: 'quiet' }, `… ${categories.length}`) : undefined);
@@ -79,8 +79,8 @@ function listKinds({ store, model, texts }: Context, element: HTMLElement): void
     fill(element, h('ul', { class: 'list' }, ...present.map((kind) =>
         h('li', {}, checkbox(kindName(texts, kind), store.state.shownKinds.has(kind.table),
             (shows) => store.change({ shownKinds: changed(store.state.shownKinds, kind.table, shows) }),
-            h('span', { class: 'count' }, model.tableOf(kind).rows),
-            store.state.colourBy === 'kind' ? swatch(colourOfKind(kind)) : undefined)))));
+            store.state.colourBy === 'kind' ? swatch(colourOfKind(kind)) : undefined,
+            h('span', { class: 'count' }, model.tableOf(kind).rows))))));
 }
 
 function listLevels({ store, levels, model, texts }: Context, element: HTMLElement): void {

@@ -107,7 +107,7 @@ export class Overlay {
         this.labels ??= this.findLabels();
         for (const label of this.labels) {
             if (drawn >= kMostDrawn) break;
-            if (!stage!.states.isVisible(label.item)) continue;
+            if (!stage!.states.isVisible(label.item) || !stage!.shows(label.at)) continue;
             const at = stage!.view.project(label.at);
             if (!at || at.x < 0 || at.y < 0 || at.x > width || at.y > height) continue;
             const wide = this.pen.measureText(label.text).width;
@@ -125,7 +125,7 @@ export class Overlay {
     private take(taken: Set<number>, x: number, y: number, wide: number): boolean {
         const cells: number[] = [];
         for (let column = Math.floor(x / 12); column <= Math.floor((x + wide) / 12); ++column) {
-            cells.push(column * 10000 + Math.floor(y / 13));
+            for (const row of [Math.floor((y - 6) / 6), Math.floor(y / 6), Math.floor((y + 6) / 6)]) cells.push(column * 10000 + row);
         }
         if (cells.some((cell) => taken.has(cell))) return false;
         for (const cell of cells) taken.add(cell);
