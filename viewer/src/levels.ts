@@ -15,9 +15,9 @@ export class Levels {
         const addKind = (table: string): void => {
             const ofKind = kind(table);
             for (let rank = 0; rank < model.tableOf(ofKind).rows; ++rank) {
-                const zs = this.heightsOf(model.item(ofKind, rank));
-                if (zs.length === 0) continue;
-                const [bottom, top] = [Math.min(...zs), Math.max(...zs)];
+                const heights = model.heightsOf(ofKind, rank);
+                if (!heights) continue;
+                const [bottom, top] = heights;
                 if (top - bottom > this.tolerance) continue;
                 const key = Math.round(top / this.tolerance);
                 weights.set(key, (weights.get(key) ?? 0) + 1);
@@ -38,13 +38,8 @@ export class Levels {
 
     // That which carries it: where its top is, or the next one above.
     levelOf(item: Item): number {
-        const zs = this.heightsOf(item);
-        const top = zs.length > 0 ? Math.max(...zs) - 2 * this.tolerance : 0;
+        const top = (this.model.heightsOf(item.kind, item.rank)?.[1] ?? 0) - 2 * this.tolerance;
         const level = this.heights.findIndex((height) => height >= top);
         return level < 0 ? this.heights.length - 1 : level;
-    }
-
-    private heightsOf(item: Item): number[] {
-        return this.model.placeOf(item).map((point) => point.z);
     }
 }

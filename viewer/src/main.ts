@@ -92,7 +92,7 @@ class App {
     private show(stage: Stage): void {
         this.store.on(['selected', 'colourBy', 'shownKinds', 'hidden', 'hiddenItems', 'isolated'], () =>
             applyStates(this.states, this.model, this.store.state, this.colouring, this.levels));
-        this.store.on(undefined, () => stage.update(this.store.state));
+        this.store.on(undefined, (changed) => stage.update(this.store.state, changed));
         stage.view.onFrame = () => this.page?.overlay?.draw();
         let waiting: ReturnType<typeof setTimeout> | undefined;
         stage.view.onMove = () => {
@@ -185,6 +185,7 @@ class App {
         const isDark = theme === 'dark' || (theme === 'auto' && matchMedia('(prefers-color-scheme: dark)').matches);
         this.stage?.setColours({
             background: isDark ? [20, 23, 28] : [246, 247, 249],
+            lift: isDark ? 0.22 : 0,
             selected: [245, 130, 20],
             release: isDark ? [235, 238, 242] : [30, 34, 40],
             severities: kOfSeverities,

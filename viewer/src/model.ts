@@ -23,8 +23,11 @@ export class Model {
     readonly unusable = new Map<string, number>(); // by table: elements that cannot be drawn
 
     private readonly firsts = new Map<string, number>();
+    private readonly sensible: Uint8Array; // of each point, whether it can be meant
 
     constructor(readonly data: Data) {
+        const { x, y, z } = data.pool;
+        this.sensible = Uint8Array.from(x, (_, i) => Number(isSensible({ x: x[i]!, y: y[i]!, z: z[i]! })));
         let count = 0;
         for (const kind of kKinds) {
             this.firsts.set(kind.table, count);
@@ -89,6 +92,24 @@ export class Model {
         return corners.every(isSensible) ? corners.map((p) => subtract(p, this.centre)) : [];
     }
 
+    // From which height to which, from the centre; nothing as with places.
+    heightsOf(kind: Kind, rank: number): [bottom: number, top: number] | undefined {
+        const { z } = this.data.pool;
+        let bottom = Infinity;
+        let top = -Infinity;
+        for (const column of this.cornerColumns(kind)) {
+            const [start, end] = column.range(rank);
+            for (let i = start; i < end; ++i) {
+                const point = column.raw[i]!;
+                if (!this.sensible[point]) return undefined;
+                const height = z[point]! - this.centre.z;
+                if (height < bottom) bottom = height;
+                if (height > top) top = height;
+            }
+        }
+        return bottom <= top ? [bottom, top] : undefined;
+    }
+
     lineOf(item: Item): number {
         return this.tableOf(item.kind).column('line').number(item.rank);
     }
@@ -106,9 +127,7 @@ export class Model {
         const { x, y, z } = this.data.pool;
         const low = [Infinity, Infinity, Infinity];
         const high = [-Infinity, -Infinity, -Infinity];
-        const sensible = Uint8Array.from(x, (_, i) =>
-            Number(isSensible({ x: x[i]!, y: y[i]!, z: z[i]! })),
-        );
+        const { sensible } = this;
         for (const kind of kKinds) {
             const columns = this.cornerColumns(kind);
             const { rows } = this.tableOf(kind);

@@ -77,6 +77,11 @@ test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
             const isFree = seen.every((other) => other === bar || distanceTo(other, x, y) > 3);
             // Not below the tools.
             if (!isFree || x < 0 || y < 100 || x > width || y > height) continue;
+            if (clicked.size === 0) {
+                const box = (await page.locator('#model').boundingBox())!;
+                await page.mouse.move(box.x + x, box.y + y);
+                await page.getByText(`bar ${bar.identifier}`, { exact: true }).waitFor();
+            }
             await clickOnModel(page, x, y);
             const selected = await page.evaluate(() => window.tamur.selected());
             assert.deepEqual(selected.map((item) => `${item.table} ${item.identifier}`), [`Filaires ${bar.identifier}`]);

@@ -8,7 +8,7 @@ import type { Point } from '../data/table';
 import type { Frame } from '../geometry/frames';
 import { type Look, makeMaterial, type SharedUniforms } from './materials';
 
-// Above that, lines are one pixel wide: wider ones cost six times the vertices.
+// Above that, lines are one pixel wide: wider ones are two triangles each.
 const kMostThick = 60000;
 
 function shown<Drawn extends Object3D>(object: Drawn, order: number): Drawn {

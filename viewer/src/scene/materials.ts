@@ -16,6 +16,9 @@ export class SharedUniforms {
     readonly clipLow = { value: new Vector3().setScalar(-Infinity) };
     readonly clipHigh = { value: new Vector3().setScalar(Infinity) };
     readonly viewport = { value: new Vector2(1, 1) };
+    readonly lift = { value: 0 };
+    readonly background = { value: new Vector3() };
+    readonly haze = { value: new Vector2(0, 0) };
     readonly pixel = { value: 1 };
     readonly isPerspective = { value: false };
     readonly largest = { value: 1 };

@@ -13,6 +13,7 @@ uniform uint hovered;
 uniform bool picking;
 uniform vec3 selectedColour;
 uniform vec4 paint;
+uniform float lift; // towards white: on dark
 flat out vec4 colour;
 flat out uint number;
 out vec3 place;
@@ -20,7 +21,7 @@ out vec3 place;
 // 0 hidden, 1 shown, 2 under the pointer, 3 selected
 int lightOf(uint item) {
     vec4 state = texelFetch(states, ivec2(int(item % ${kStatesWidth}u), int(item / ${kStatesWidth}u)), 0);
-    colour = vec4(mix(state.rgb, paint.rgb, paint.a), 1.0);
+    colour = vec4(mix(mix(state.rgb, vec3(1.0), lift), paint.rgb, paint.a), 1.0);
     number = item + 1u;
     if (state.a < 0.25) return 0;
     if (picking || paint.a > 0.5) return 1;
@@ -52,10 +53,21 @@ bool isDone() {
 }
 `;
 
+// Lines that are farther away are paler: else nobody sees what is in front.
+const kHaze = /* glsl */ `
+uniform vec2 haze; // from which distance, and 1 / over which
+out float far;
+void setHaze(float distance, int light) {
+    far = light == 1 ? clamp((distance - haze.x) * haze.y, 0.0, 1.0) : 0.0;
+}
+`;
+
 export const kLineFragment = /* glsl */ `${kFragmentHead}
+uniform vec3 background;
+in float far;
 void main() {
     if (isDone()) return;
-    fragment = vec4(colour.rgb, opacity);
+    fragment = vec4(mix(colour.rgb, background, 0.55 * far), opacity);
 }
 `;
 
@@ -71,18 +83,21 @@ void main() {
 `;
 
 // Lines of one pixel: for many.
-export const kThinVertex = /* glsl */ `${kVertexHead}
+export const kThinVertex = /* glsl */ `${kVertexHead}${kHaze}
 in vec3 position;
 in uint item;
 void main() {
     place = position;
-    gl_Position = lightOf(item) == 0 ? kNowhere : projectionMatrix * modelViewMatrix * vec4(position, 1.0);
+    int light = lightOf(item);
+    vec4 seen = modelViewMatrix * vec4(position, 1.0);
+    setHaze(-seen.z, light);
+    gl_Position = light == 0 ? kNowhere : projectionMatrix * seen;
     gl_Position.z -= 2e-4 * gl_Position.w;
 }
 `;
 
 // Lines of a width in pixels: a rectangle for each.
-export const kThickVertex = /* glsl */ `${kVertexHead}
+export const kThickVertex = /* glsl */ `${kVertexHead}${kHaze}
 in vec3 position; // along from 0 to 1, across from -1 to 1
 in vec3 start;
 in vec3 end;
@@ -91,6 +106,7 @@ uniform vec2 viewport;
 uniform float width;
 void main() {
     int light = lightOf(item);
+    far = 0.0;
     if (light == 0) { place = start; gl_Position = kNowhere; return; }
     vec4 a = projectionMatrix * modelViewMatrix * vec4(start, 1.0);
     vec4 b = projectionMatrix * modelViewMatrix * vec4(end, 1.0);
@@ -108,6 +124,7 @@ void main() {
     gl_Position.xy += vec2(-along.y, along.x) * position.y * wide / viewport * gl_Position.w;
     gl_Position.z -= (light > 1 ? 4e-4 : 2e-4) * gl_Position.w;
     place = mix(start, end, mix(from, to, position.x));
+    setHaze(-(modelViewMatrix * vec4(place, 1.0)).z, light);
 }
 `;
 

@@ -13,7 +13,7 @@ import { drawLocalAxes } from './axes';
 import { drawBarAxes, drawProfiles } from './bars';
 import { Symbols } from './builders';
 import { drawLoads, type DrawnLoads } from './loads';
-import { SharedUniforms } from './materials';
+import { kNoItem, SharedUniforms } from './materials';
 import { drawLines, drawPoints, drawWalls } from './others';
 import { Picker } from './picking';
 import { drawReleases } from './releases';
@@ -33,6 +33,7 @@ interface Drawn {
 
 export interface StageColours {
     background: Rgb;
+    lift: number; // of all colours, towards white
     selected: Rgb;
     release: Rgb;
     severities: Rgb[];
@@ -60,13 +61,17 @@ export class Stage {
     setColours(colours: StageColours): void {
         const [red, green, blue] = colours.selected;
         this.shared.selectedColour.value.set(red / 255, green / 255, blue / 255);
+        this.shared.lift.value = colours.lift;
         this.view.setBackground(colours.background);
         this.colours = colours;
     }
     private colours: StageColours | undefined;
 
     // Draws what the state asks for, and only what changed.
-    update(state: Readonly<State>): void {
+    update(state: Readonly<State>, changed: ReadonlySet<keyof State>): void {
+        this.shared.hovered.value = state.hovered ?? kNoItem;
+        this.view.request();
+        if (changed.size === 1 && changed.has('hovered')) return;
         const { model, bars, shared } = this;
         const shows = (table: string): boolean => state.shownKinds.has(table) && model.tableOf(kind(table)).rows > 0;
         this.draw('bars', shows('Filaires') ? 'yes' : '', () => ({ lines: drawBarAxes(model, shared) }));
@@ -85,8 +90,6 @@ export class Stage {
         this.updateLoads(state);
         this.setClip(state);
         this.view.setOrthographic(state.orthographic);
-        this.shared.hovered.value = state.hovered ?? 0xffffffff;
-        this.view.request();
     }
 
     // Of many bars those near the eye have profiles: called when it has moved.

@@ -97,7 +97,7 @@ export class View {
     }
 
     setBackground([red, green, blue]: Rgb): void {
-        this.scene.background = null;
+        this.shared.background.value.set(red / 255, green / 255, blue / 255);
         this.renderer.setClearColor(new Color().setRGB(red / 255, green / 255, blue / 255, SRGBColorSpace), 1);
         this.request();
     }
@@ -315,6 +315,7 @@ export class View {
     prepare(): void {
         this.camera.updateMatrixWorld();
         const distance = this.camera.position.distanceTo(this.middle);
+        this.shared.haze.value.set(Math.max(0, distance - this.radius), 1 / (2 * this.radius));
         if (this.isOrthographic) {
             this.orthographic.near = -distance - 10 * this.radius;
             this.orthographic.far = distance + 10 * this.radius;

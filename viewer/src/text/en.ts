@@ -27,8 +27,8 @@ export const en = {
     linkHere: 'The address of this view:',
     colourBy: 'Colour by', byKind: 'Kind', byGroup: 'Group', byMaterial: 'Material', bySection: 'Section',
     byType: 'Type', byFinding: 'Finding', legend: 'Legend', only: 'only', onlyThis: 'Show only',
-    show: 'Show', kinds: 'Kinds', groups: 'Groups', levels: 'Levels', upTo: 'up to', display: 'Display',
-    solids: 'Profiles of bars', solidsHelp: 'Near the eye, or selected', thicknessOf: 'Thickness of surfaces',
+    show: 'Show', kinds: 'Kinds', levels: 'Levels', upTo: 'up to', display: 'Display',
+    solids: 'Profiles of bars', thicknessOf: 'Thickness of surfaces',
     releases: 'Releases', axes: 'Local axes', labels: 'Labels', markers: 'Marks of findings', thickness: 'Thickness',
     noGroup: 'Group', noType: 'No type', none: 'None', noFinding: 'No finding', note: 'Note', warning: 'Warning',
     error: 'Error', notes: 'notes', warnings: 'warnings', errors: 'errors',
@@ -41,11 +41,10 @@ export const en = {
     noFindings: 'Nothing was found: neither in the file nor in the model.', all: 'All', line: 'line', inFile: 'Line of the file',
     more: 'Show more', notListed: 'more are not listed', details: 'Selected', selectedCount: 'selected',
     table: 'Table', tables: 'Tables', openTable: 'Open the tables', rows: 'rows', filter: 'Filter', csv: 'CSV',
-    csvHelp: 'Save the table as CSV', ascending: 'ascending', field: 'Field', value: 'Value', flyTo: 'Fly there',
+    csvHelp: 'Save the table as CSV', ascending: 'ascending', value: 'Value', flyTo: 'Fly there',
     showCase: 'Show its loads', inTable: 'In the table', distance: 'Distance', from: 'From', to: 'to',
     measureHelp: 'Click two points, or choose two elements in the tables. Esc ends.', measureNext: 'Now the second point.',
-    clear: 'Clear', low: 'from', high: 'to', wholeModel: 'Whole model', sectionNone: 'none',
-    noWebGl: 'This browser shows no 3D (WebGL is missing or switched off). The tables, loads and findings are all here.',
+    low: 'from', high: 'to', wholeModel: 'Whole model',     noWebGl: 'This browser shows no 3D (WebGL is missing or switched off). The tables, loads and findings are all here.',
     lostWebGl: 'The graphics were lost. Reload the page to see the model again.',
     empty: 'The model holds no elements.', cannotShow: 'cannot be shown: coordinates that cannot be meant, or fewer than three corners',
     broken: 'This page is damaged: its model cannot be read.', old: 'This browser is too old for this page.',
@@ -69,7 +68,7 @@ export const en = {
     ],
     licences: 'Contains three.js (MIT licence, three.js authors) and earcut (ISC licence, Mapbox).',
     madeFrom: 'Model', fileVersion: 'Version of the file',
-    hiddenCount: 'hidden', menu: 'Menu',
+    snow: 'snow', wind: 'wind',
 };
 
 export type Texts = typeof en;

@@ -65,10 +65,10 @@ export function makeLoadsPanel(context: Context, element: HTMLElement): void {
     }
     const detail = h('div', { class: 'case-detail' });
     element.append(h('div', { class: 'load-options' }, scaleSlider(context), valuesSwitch(context)), list, detail);
-    store.on(['loadCase'], () => {
+    store.on(['loadCase', 'panel'], () => {
         for (const radio of list.querySelectorAll('input')) {
             const isChosen = radio.value === String(store.state.loadCase ?? '');
-            if (isChosen && !radio.checked) radio.closest('label')!.scrollIntoView({ block: 'nearest' });
+            if (isChosen) radio.closest('label')!.scrollIntoView({ block: 'nearest' });
             radio.checked = isChosen;
         }
         fillDetail(context, detail, cases.find((one) => one.number === store.state.loadCase));

@@ -4,6 +4,7 @@ import { kBars } from '../geometry/bars';
 import { kLineLoads, kLocal, kPointLoads, kProjected, tailOf } from '../geometry/loads';
 import { length, middleOf, subtract } from '../geometry/vectors';
 import { kind } from '../kinds';
+import type { Item } from '../model';
 import { forceText, numberText } from '../names';
 import { kAxisColours } from '../scene/axes';
 import type { Context } from './context';
@@ -15,6 +16,8 @@ interface Label {
     item: number;
 }
 
+const kSurfaces = kind('Surfaciques');
+const kWalls = kind('Parois');
 const kMostLabels = 4000;
 const kMostDrawn = 250;
 const kFont = '11px system-ui, sans-serif';
@@ -90,12 +93,31 @@ export class Overlay {
                 const item = model.item(ofKind, rank);
                 const place = model.placeOf(item);
                 if (place.length === 0) continue;
-                const text = (ofKind === kBars || table === 'Surfaciques' ? model.labelsOf(item)[0] : '') ||
-                    String(model.identifierOf(item));
+                const text = this.textOf(item);
                 labels.push({ at: middleOf(place), text: text.slice(0, 60), isLoad: false, item: item.number });
             }
         }
         return labels;
+    }
+
+    private textOf(item: Item): string {
+        const { model } = this.context;
+        const identifier = String(model.identifierOf(item));
+        if (item.kind === kBars || item.kind === kSurfaces) return model.labelsOf(item)[0] || identifier;
+        return item.kind === kWalls ? `${identifier} ${this.climateOf(item)}` : identifier;
+    }
+
+    // Snow, and wind with the external coefficients of its zones.
+    private climateOf(item: Item): string {
+        const { model, texts } = this.context;
+        const table = model.tableOf(item.kind);
+        const parts: string[] = [];
+        if (table.column('bNeige').number(item.rank) !== 0) parts.push(texts.snow);
+        if (table.column('bVent').number(item.rank) !== 0) {
+            const zones = table.column('dCe').numbers(item.rank).map((value) => numberText(value, 3));
+            parts.push(`${texts.wind} Ce ${zones.join(' / ')}`);
+        }
+        return parts.join(', ');
     }
 
     private drawLabels(): void {

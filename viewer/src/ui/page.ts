@@ -56,8 +56,8 @@ export function makePage(
     const measure = new Measure(context, overlay, measureBox);
     listenToPointer(context, parts.canvas, tip, measure);
     listenToKeys(context, actions, parts.canvas, () => about);
-    store.on(undefined, () => {
-        document.documentElement.dataset.theme = store.state.theme;
+    store.on(undefined, (changed) => {
+        if (changed.size === 1 && changed.has('hovered')) return;
         try {
             history.replaceState(null, '', addressOf(context, false) || location.pathname + location.search);
         } catch {
