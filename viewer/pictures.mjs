@@ -5,7 +5,9 @@ import { dirname, join } from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 
 const root = join(dirname(fileURLToPath(import.meta.url)), '..');
-const { chromium } = await import(join(root, 'build/viewer/node_modules/playwright-core/index.mjs'));
+const { chromium } = await import(
+    join(root, 'build/viewer/node_modules/playwright-core/index.mjs')
+);
 const output = join(root, 'docs/pictures');
 const pages = join(root, 'build/viewer/pictures');
 for (const folder of [output, pages]) mkdirSync(folder, { recursive: true });
@@ -17,11 +19,23 @@ const pictures = [
     { name: 'batiment', hash: '#surface=301&case=3', panel: 'loads', theme: 'dark' },
 ];
 
-const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: ['--no-sandbox'] });
+const browser = await chromium.launch({
+    executablePath: '/usr/bin/chromium',
+    args: ['--no-sandbox'],
+});
 for (const { name, hash, panel, theme = 'light', key = '1' } of pictures) {
     const file = join(pages, `${name}.html`);
-    execFileSync(join(root, 'build/native/tamur'), ['view', join(root, 'samples', `${name}.txt`), '-o', file]);
-    const page = await browser.newPage({ viewport: { width: 1200, height: 720 }, colorScheme: theme, locale: 'en-GB' });
+    execFileSync(join(root, 'build/native/tamur'), [
+        'view',
+        join(root, 'samples', `${name}.txt`),
+        '-o',
+        file,
+    ]);
+    const page = await browser.newPage({
+        viewport: { width: 1200, height: 720 },
+        colorScheme: theme,
+        locale: 'en-GB',
+    });
     await page.goto(pathToFileURL(file).href + hash);
     await page.waitForFunction(() => document.documentElement.dataset.ready === 'yes');
     await page.click(`#tab-${panel}`);

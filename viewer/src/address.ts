@@ -33,7 +33,10 @@ function itemOf(model: Model, key: string, value: string): Item | undefined {
     let item = model.find(kind, Number(parts[1]));
     const { identifier } = kind;
     for (let place = 1; item && identifier && place < Number(parts[2] ?? 1); ++place) {
-        const rank = model.tableOf(kind).column(identifier).raw.indexOf(Number(parts[1]), item.rank + 1);
+        const rank = model
+            .tableOf(kind)
+            .column(identifier)
+            .raw.indexOf(Number(parts[1]), item.rank + 1);
         item = rank < 0 ? undefined : model.item(kind, rank);
     }
     return item;
@@ -55,7 +58,11 @@ export function addressOf({ store, model, stage }: Context, hasEye: boolean): st
         const { position, target } = stage.view.eye;
         // In the model's coordinates.
         const { centre } = model;
-        const numbers = [position, target].flatMap((point) => [point.x + centre.x, point.y + centre.y, point.z + centre.z]);
+        const numbers = [position, target].flatMap((point) => [
+            point.x + centre.x,
+            point.y + centre.y,
+            point.z + centre.z,
+        ]);
         parts.set('eye', numbers.map(rounded).join(','));
     }
     const text = parts.toString().replaceAll('%2C', ',');
@@ -69,11 +76,14 @@ export function readAddress(model: Model, hash: string): Address {
     let eye: Eye | undefined;
     for (const [key, value] of parts) {
         if (key === 'case' && /^-?\d+$/.test(value)) state.loadCase = Number(value);
-        else if (key === 'colour' && kColourBy.includes(value as ColourBy)) state.colourBy = value as ColourBy;
-        else if (key === 'show') for (const name of kSwitches) state[name] = value.split('.').includes(name);
+        else if (key === 'colour' && kColourBy.includes(value as ColourBy))
+            state.colourBy = value as ColourBy;
+        else if (key === 'show')
+            for (const name of kSwitches) state[name] = value.split('.').includes(name);
         else if (key === 'parallel') state.orthographic = value === '1';
         else if (key === 'table') {
-            if (kKinds.some((kind) => kind.table === value && model.tableOf(kind).rows > 0)) state.table = value;
+            if (kKinds.some((kind) => kind.table === value && model.tableOf(kind).rows > 0))
+                state.table = value;
         } else if (key === 'eye') {
             const n = value.split(',').map(Number);
             if (n.length === 6 && n.every(Number.isFinite)) {

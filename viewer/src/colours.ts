@@ -14,20 +14,45 @@ export interface Category {
 }
 
 const kOfKinds: Record<string, Rgb> = {
-    Filaires: [62, 104, 160], Surfaciques: [140, 160, 184], Ouvertures: [196, 110, 60],
-    Parois: [200, 160, 60], Nodes: [110, 116, 128], AppuisPonctuels: [38, 140, 92],
-    AppuisLineaires: [38, 140, 92], AppuisSurfaciques: [38, 140, 92], Masses: [128, 84, 170],
-    Cables: [0, 140, 150], Deplacements: [190, 70, 140], LinesInterieur: [120, 130, 150],
-    Lines: [150, 150, 150], SurfacicSections: [170, 90, 120], ChargesPonctuelles: [208, 64, 48],
-    ChargesLineaires: [208, 64, 48], ChargesSurfaciques: [208, 64, 48],
+    Filaires: [62, 104, 160],
+    Surfaciques: [140, 160, 184],
+    Ouvertures: [196, 110, 60],
+    Parois: [200, 160, 60],
+    Nodes: [110, 116, 128],
+    AppuisPonctuels: [38, 140, 92],
+    AppuisLineaires: [38, 140, 92],
+    AppuisSurfaciques: [38, 140, 92],
+    Masses: [128, 84, 170],
+    Cables: [0, 140, 150],
+    Deplacements: [190, 70, 140],
+    LinesInterieur: [120, 130, 150],
+    Lines: [150, 150, 150],
+    SurfacicSections: [170, 90, 120],
+    ChargesPonctuelles: [208, 64, 48],
+    ChargesLineaires: [208, 64, 48],
+    ChargesSurfaciques: [208, 64, 48],
 };
 export const kNeutral: Rgb = [138, 144, 152];
-export const kOfSeverities: Rgb[] = [[66, 120, 200], [214, 140, 20], [204, 46, 46]];
+export const kOfSeverities: Rgb[] = [
+    [66, 120, 200],
+    [214, 140, 20],
+    [204, 46, 46],
+];
 
 // Apart from each other on light and on dark; further ones go around the circle.
 const kPalette: Rgb[] = [
-    [52, 110, 186], [226, 126, 42], [52, 152, 86], [200, 62, 66], [136, 98, 184], [150, 104, 82],
-    [212, 110, 176], [30, 158, 172], [172, 162, 40], [96, 110, 132], [100, 170, 230], [236, 160, 110],
+    [52, 110, 186],
+    [226, 126, 42],
+    [52, 152, 86],
+    [200, 62, 66],
+    [136, 98, 184],
+    [150, 104, 82],
+    [212, 110, 176],
+    [30, 158, 172],
+    [172, 162, 40],
+    [96, 110, 132],
+    [100, 170, 230],
+    [236, 160, 110],
 ];
 
 export function paletteColour(index: number): Rgb {
@@ -51,10 +76,14 @@ export class Colouring {
     private readonly found: Category[] = []; // in the order of the items
     private readonly places = new Map<string, number>(); // in it, by key
     private readonly ofItems: Int32Array; // places in it, by item
-    private readonly ofItem: (item: Item) => { key: string; name: string; colour?: Rgb } | undefined;
+    private readonly ofItem: (
+        item: Item,
+    ) => { key: string; name: string; colour?: Rgb } | undefined;
 
     constructor(
-        readonly by: ColourBy, private readonly model: Model, private readonly findings: Findings,
+        readonly by: ColourBy,
+        private readonly model: Model,
+        private readonly findings: Findings,
         private readonly texts: Texts,
     ) {
         this.ofItem = this.chooser();
@@ -86,7 +115,12 @@ export class Colouring {
         if (place === undefined) {
             place = this.found.length;
             this.places.set(found.key, place);
-            this.found.push({ key: found.key, name: found.name, colour: found.colour ?? kNeutral, count: 0 });
+            this.found.push({
+                key: found.key,
+                name: found.name,
+                colour: found.colour ?? kNeutral,
+                count: 0,
+            });
         }
         this.ofItems[item.number] = place;
         ++this.found[place]!.count;
@@ -97,7 +131,9 @@ export class Colouring {
         switch (this.by) {
             case 'kind':
                 return ({ kind: of }) => ({
-                    key: `kind:${of.table}`, name: kindName(texts, of), colour: colourOfKind(of),
+                    key: `kind:${of.table}`,
+                    name: kindName(texts, of),
+                    colour: colourOfKind(of),
                 });
             case 'group': {
                 const titles = groupTitles(model);
@@ -105,35 +141,53 @@ export class Colouring {
                     const group = model.groupOf(item);
                     if (group === undefined) return undefined;
                     const key = `${item.kind.groupKind}:${group}`;
-                    return { key: `group:${key}`, name: titles.get(key) ?? `${texts.noGroup} ${group}` };
+                    return {
+                        key: `group:${key}`,
+                        name: titles.get(key) ?? `${texts.noGroup} ${group}`,
+                    };
                 };
             }
             case 'material':
-                return (item) => this.referred(item, 'material', 'Materials', 'MaterialName', {
-                    Filaires: 'FilaireMaterial', Surfaciques: 'SurfaciqueMaterial',
-                });
+                return (item) =>
+                    this.referred(item, 'material', 'Materials', 'MaterialName', {
+                        Filaires: 'FilaireMaterial',
+                        Surfaciques: 'SurfaciqueMaterial',
+                    });
             case 'section':
-                return (item) => item.kind === kSurfaces
-                    ? this.thickness(item)
-                    : this.referred(item, 'section', 'Sections', 'SectionLib', { Filaires: 'StartSection' });
+                return (item) =>
+                    item.kind === kSurfaces
+                        ? this.thickness(item)
+                        : this.referred(item, 'section', 'Sections', 'SectionLib', {
+                              Filaires: 'StartSection',
+                          });
             case 'type':
                 return (item) => {
                     const column = model.tableOf(item.kind).column('ElementType');
-                    if (item.kind !== kBars && item.kind !== kSurfaces && !item.kind.groupKind) return undefined;
+                    if (item.kind !== kBars && item.kind !== kSurfaces && !item.kind.groupKind)
+                        return undefined;
                     const name = column.text(item.rank) || texts.noType;
                     return { key: `type:${item.kind.table}:${name}`, name };
                 };
             case 'finding':
                 return (item) => {
                     const severity = this.findings.worstOf(item.number);
-                    if (severity === undefined) return { key: 'finding:none', name: texts.noFinding, colour: kNeutral };
+                    if (severity === undefined)
+                        return { key: 'finding:none', name: texts.noFinding, colour: kNeutral };
                     const names = [texts.note, texts.warning, texts.error];
-                    return { key: `finding:${severity}`, name: names[severity]!, colour: kOfSeverities[severity]! };
+                    return {
+                        key: `finding:${severity}`,
+                        name: names[severity]!,
+                        colour: kOfSeverities[severity]!,
+                    };
                 };
         }
     }
     private referred(
-        item: Item, key: string, table: string, nameColumn: string, columns: Record<string, string>,
+        item: Item,
+        key: string,
+        table: string,
+        nameColumn: string,
+        columns: Record<string, string>,
     ): { key: string; name: string } | undefined {
         const column = columns[item.kind.table];
         if (!column) return undefined;
@@ -144,7 +198,10 @@ export class Colouring {
     }
     private thickness(item: Item): { key: string; name: string } {
         const value = this.model.tableOf(item.kind).column('Thickness').number(item.rank);
-        return { key: `thickness:${value}`, name: `${this.texts.thickness} ${Number(value.toPrecision(6))} m` };
+        return {
+            key: `thickness:${value}`,
+            name: `${this.texts.thickness} ${Number(value.toPrecision(6))} m`,
+        };
     }
 }
 

@@ -42,7 +42,8 @@ export class Findings {
             });
             if (item) {
                 const before = this.worst.get(item.number);
-                if (before === undefined || before < severity) this.worst.set(item.number, severity);
+                if (before === undefined || before < severity)
+                    this.worst.set(item.number, severity);
             }
         }
         const rest = model.data.table('FindingsNotHeld');
@@ -57,7 +58,10 @@ export class Findings {
 
     count(severity: Severity): number {
         const listed = this.all.filter((finding) => finding.severity === severity).length;
-        return this.notListed.reduce((sum, rest) => sum + (rest.severity === severity ? rest.count : 0), listed);
+        return this.notListed.reduce(
+            (sum, rest) => sum + (rest.severity === severity ? rest.count : 0),
+            listed,
+        );
     }
     worstOf(item: number): Severity | undefined {
         return this.worst.get(item);

@@ -25,7 +25,10 @@ export class Levels {
         };
         addKind('Filaires');
         addKind('Surfaciques');
-        const found = [...weights].sort((a, b) => b[1] - a[1]).slice(0, kMost).map(([key]) => key * this.tolerance);
+        const found = [...weights]
+            .sort((a, b) => b[1] - a[1])
+            .slice(0, kMost)
+            .map(([key]) => key * this.tolerance);
         found.sort((a, b) => a - b);
         for (const height of found) {
             const last = this.heights[this.heights.length - 1];

@@ -16,11 +16,28 @@ import { applyStates } from './visibility';
 
 class App {
     private readonly store = new Store({
-        selected: [], hovered: undefined, loadCase: undefined, loadScale: 1, showValues: true, colourBy: 'kind',
-        shownKinds: new Set(kKinds.filter((kind) => kind.isShown).map((kind) => kind.table)), hidden: new Set(),
-        hiddenItems: new Set(), isolated: undefined, solids: false, thickness: false, releases: true, axes: false,
-        labels: false, markers: false, orthographic: false, clip: kWhole, tool: 'select', panel: 'model',
-        table: undefined, theme: 'auto',
+        selected: [],
+        hovered: undefined,
+        loadCase: undefined,
+        loadScale: 1,
+        showValues: true,
+        colourBy: 'kind',
+        shownKinds: new Set(kKinds.filter((kind) => kind.isShown).map((kind) => kind.table)),
+        hidden: new Set(),
+        hiddenItems: new Set(),
+        isolated: undefined,
+        solids: false,
+        thickness: false,
+        releases: true,
+        axes: false,
+        labels: false,
+        markers: false,
+        orthographic: false,
+        clip: kWhole,
+        tool: 'select',
+        panel: 'model',
+        table: undefined,
+        theme: 'auto',
     });
     private readonly findings: Findings;
     private readonly levels: Levels;
@@ -33,7 +50,10 @@ class App {
     private colouring!: Colouring;
     private trouble: string | undefined;
 
-    constructor(private readonly model: Model, private readonly body: HTMLElement) {
+    constructor(
+        private readonly model: Model,
+        private readonly body: HTMLElement,
+    ) {
         this.findings = new Findings(model);
         this.levels = new Levels(model);
         this.states = new States(model.itemCount);
@@ -52,16 +72,24 @@ class App {
     start(): void {
         const address = readAddress(this.model, location.hash);
         const marks = this.findings.count(2) + this.findings.count(1) > 0;
-        this.store.change({ ...address.state, markers: marks, selected: address.item ? [address.item.number] : [] });
+        this.store.change({
+            ...address.state,
+            markers: marks,
+            selected: address.item ? [address.item.number] : [],
+        });
         if (!this.stage && this.store.state.table === undefined) {
-            this.store.change({ table: kKinds.find((kind) => this.model.tableOf(kind).rows > 0)?.table });
+            this.store.change({
+                table: kKinds.find((kind) => this.model.tableOf(kind).rows > 0)?.table,
+            });
         }
         this.build();
         this.follow();
         if (address.eye && this.stage) this.stage.view.eye = address.eye;
         else if (address.item) this.goTo(address.item);
         window.addEventListener('hashchange', () => this.goToAddress());
-        matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () => this.setColours());
+        matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () =>
+            this.setColours(),
+        );
     }
 
     private build(): void {
@@ -70,28 +98,49 @@ class App {
         if (this.trouble) this.trouble = texts.noWebGl;
         this.colouring = new Colouring(this.store.state.colourBy, this.model, this.findings, texts);
         const context: Context = {
-            model: this.model, findings: this.findings, levels: this.levels, store: this.store, texts, language: this.language,
-            stage: this.stage, colouring: () => this.colouring,
-            goTo: (item) => this.goTo(item), select: (item, isAdded) => this.select(item, isAdded),
-            measureCovered: () => this.measureCovered(), say: (text) => this.say(text),
+            model: this.model,
+            findings: this.findings,
+            levels: this.levels,
+            store: this.store,
+            texts,
+            language: this.language,
+            stage: this.stage,
+            colouring: () => this.colouring,
+            goTo: (item) => this.goTo(item),
+            select: (item, isAdded) => this.select(item, isAdded),
+            measureCovered: () => this.measureCovered(),
+            say: (text) => this.say(text),
         };
         // Before what shows the legend.
         this.store.on(['colourBy'], () => {
             if (this.colouring.by === this.store.state.colourBy) return;
-            this.colouring = new Colouring(this.store.state.colourBy, this.model, this.findings, texts);
+            this.colouring = new Colouring(
+                this.store.state.colourBy,
+                this.model,
+                this.findings,
+                texts,
+            );
         });
         if (this.stage) this.setColours();
-        this.page = makePage(context, { canvas: this.canvas, overlay: this.overlay, trouble: this.trouble }, () => {
-            this.language = this.language === 'fr' ? 'en' : 'fr';
-            this.build();
-        }, this.body);
+        this.page = makePage(
+            context,
+            { canvas: this.canvas, overlay: this.overlay, trouble: this.trouble },
+            () => {
+                this.language = this.language === 'fr' ? 'en' : 'fr';
+                this.build();
+            },
+            this.body,
+        );
         this.store.on(['theme'], () => this.setColours());
         if (this.stage) this.show(this.stage);
     }
 
     private show(stage: Stage): void {
-        this.store.on(['selected', 'colourBy', 'shownKinds', 'hidden', 'hiddenItems', 'isolated'], () =>
-            applyStates(this.states, this.model, this.store.state, this.colouring, this.levels));
+        this.store.on(
+            ['selected', 'colourBy', 'shownKinds', 'hidden', 'hiddenItems', 'isolated'],
+            () =>
+                applyStates(this.states, this.model, this.store.state, this.colouring, this.levels),
+        );
         this.store.on(undefined, (changed) => stage.update(this.store.state, changed));
         stage.view.onFrame = () => this.page?.overlay?.draw();
         let waiting: ReturnType<typeof setTimeout> | undefined;
@@ -128,9 +177,14 @@ class App {
             const hiddenItems = new Set(state.hiddenItems);
             hiddenItems.delete(item.number);
             const category = this.colouring.categoryOf(item)?.key;
-            const hidden = new Set([...state.hidden].filter((key) => key !== category && !key.startsWith('level:')));
+            const hidden = new Set(
+                [...state.hidden].filter((key) => key !== category && !key.startsWith('level:')),
+            );
             this.store.change({
-                hiddenItems, hidden, isolated: undefined, shownKinds: new Set([...state.shownKinds, item.kind.table]),
+                hiddenItems,
+                hidden,
+                isolated: undefined,
+                shownKinds: new Set([...state.shownKinds, item.kind.table]),
             });
         }
         const place = this.model.placeOf(item);
@@ -146,7 +200,10 @@ class App {
         if (!view || !details || !tools) return;
         const picture = view.canvas.getBoundingClientRect();
         const panel = details.getBoundingClientRect();
-        const isBeside = !details.hidden && panel.top < picture.bottom && panel.left > picture.left + 0.4 * picture.width;
+        const isBeside =
+            !details.hidden &&
+            panel.top < picture.bottom &&
+            panel.left > picture.left + 0.4 * picture.width;
         view.covered = {
             right: isBeside ? picture.right - panel.left : 0,
             top: Math.max(0, tools.getBoundingClientRect().bottom - picture.top),
@@ -161,7 +218,9 @@ class App {
         }
         const rest = selected.filter((number) => number !== item.number);
         const isRemoved = isAdded && rest.length < selected.length;
-        this.store.change({ selected: isAdded ? (isRemoved ? rest : [...rest, item.number]) : [item.number] });
+        this.store.change({
+            selected: isAdded ? (isRemoved ? rest : [...rest, item.number]) : [item.number],
+        });
     }
 
     private goToAddress(): void {
@@ -182,7 +241,9 @@ class App {
     private setColours(): void {
         const { theme } = this.store.state;
         document.documentElement.dataset.theme = theme;
-        const isDark = theme === 'dark' || (theme === 'auto' && matchMedia('(prefers-color-scheme: dark)').matches);
+        const isDark =
+            theme === 'dark' ||
+            (theme === 'auto' && matchMedia('(prefers-color-scheme: dark)').matches);
         this.stage?.setColours({
             background: isDark ? [20, 23, 28] : [246, 247, 249],
             lift: isDark ? 0.22 : 0,
@@ -197,19 +258,32 @@ class App {
         const { model, store } = this;
         (window as unknown as Record<string, unknown>).tamur = {
             state: () => ({ ...store.state }),
-            counts: () => Object.fromEntries([...model.data.tables].map(([name, table]) => [name, table.rows])),
+            counts: () =>
+                Object.fromEntries(
+                    [...model.data.tables].map(([name, table]) => [name, table.rows]),
+                ),
             project: (table: string, identifier: number) => {
                 const kind = kKinds.find((one) => one.table === table);
                 const item = kind && model.find(kind, identifier);
-                return item && this.stage ? model.placeOf(item).map((point) => this.stage!.view.project(point)) : [];
+                return item && this.stage
+                    ? model.placeOf(item).map((point) => this.stage!.view.project(point))
+                    : [];
             },
-            selected: () => store.state.selected.map((number) => {
-                const item = model.itemOf(number)!;
-                return { table: item.kind.table, identifier: model.identifierOf(item), rank: item.rank };
-            }),
-            loads: () => this.stage?.loads?.loads.map(({ item, arrows }) => ({
-                table: item.kind.table, identifier: model.identifierOf(item), arrows: arrows.length,
-            })) ?? [],
+            selected: () =>
+                store.state.selected.map((number) => {
+                    const item = model.itemOf(number)!;
+                    return {
+                        table: item.kind.table,
+                        identifier: model.identifierOf(item),
+                        rank: item.rank,
+                    };
+                }),
+            loads: () =>
+                this.stage?.loads?.loads.map(({ item, arrows }) => ({
+                    table: item.kind.table,
+                    identifier: model.identifierOf(item),
+                    arrows: arrows.length,
+                })) ?? [],
         };
     }
 }

@@ -27,7 +27,9 @@ export class Model {
 
     constructor(readonly data: Data) {
         const { x, y, z } = data.pool;
-        this.sensible = Uint8Array.from(x, (_, i) => Number(isSensible({ x: x[i]!, y: y[i]!, z: z[i]! })));
+        this.sensible = Uint8Array.from(x, (_, i) =>
+            Number(isSensible({ x: x[i]!, y: y[i]!, z: z[i]! })),
+        );
         let count = 0;
         for (const kind of kKinds) {
             this.firsts.set(kind.table, count);
@@ -68,7 +70,9 @@ export class Model {
     // What people call it by; places of what has no identifier count from 1.
     identifierOf(item: Item): number {
         const { identifier } = item.kind;
-        return identifier ? this.tableOf(item.kind).column(identifier).number(item.rank) : item.rank + 1;
+        return identifier
+            ? this.tableOf(item.kind).column(identifier).number(item.rank)
+            : item.rank + 1;
     }
     find(kind: Kind, identifier: number): Item | undefined {
         const table = this.tableOf(kind);

@@ -12,7 +12,8 @@ export function titleOf(model: Model, item: Item): string {
     for (const name of ['Titre', 'MaterialName', 'SectionLib', 'AttacheLib']) {
         if (table.has(name)) return table.column(name).text(item.rank) ?? '';
     }
-    if (table.has('iNumCas')) return caseTitle(model, table.column('iNumCas').number(item.rank)) ?? '';
+    if (table.has('iNumCas'))
+        return caseTitle(model, table.column('iNumCas').number(item.rank)) ?? '';
     return model.labelsOf(item).join(' ');
 }
 
@@ -32,5 +33,7 @@ export function numberText(value: number, digits = 7): string {
 
 // A force, or one per length or area, in newtons.
 export function forceText(value: number, unit: string): string {
-    return Math.abs(value) >= 1000 ? `${numberText(value / 1000, 4)} k${unit}` : `${numberText(value, 4)} ${unit}`;
+    return Math.abs(value) >= 1000
+        ? `${numberText(value / 1000, 4)} k${unit}`
+        : `${numberText(value, 4)} ${unit}`;
 }

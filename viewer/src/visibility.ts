@@ -9,7 +9,11 @@ import type { State } from './state';
 export const levelKey = (level: number): string => `level:${level}`;
 
 export function applyStates(
-    states: States, model: Model, state: Readonly<State>, colouring: Colouring, levels: Levels,
+    states: States,
+    model: Model,
+    state: Readonly<State>,
+    colouring: Colouring,
+    levels: Levels,
 ): void {
     const hidesCategory = colouring.categories.some((category) => state.hidden.has(category.key));
     const hidesLevel = levels.heights.some((_, level) => state.hidden.has(levelKey(level)));

@@ -12,7 +12,10 @@ import { root } from './support';
 export interface Tamur {
     state: () => State;
     counts: () => Record<string, number>;
-    project: (table: string, identifier: number) => ({ x: number; y: number; depth: number } | undefined)[];
+    project: (
+        table: string,
+        identifier: number,
+    ) => ({ x: number; y: number; depth: number } | undefined)[];
     selected: () => { table: string; identifier: number; rank: number }[];
     loads: () => { table: string; identifier: number; arrows: number }[];
 }
@@ -25,7 +28,10 @@ declare global {
 let browser: Browser | undefined;
 
 export async function launch(): Promise<void> {
-    browser = await chromium.launch({ executablePath: '/usr/bin/chromium', args: ['--no-sandbox'] });
+    browser = await chromium.launch({
+        executablePath: '/usr/bin/chromium',
+        args: ['--no-sandbox'],
+    });
 }
 export async function closeBrowser(): Promise<void> {
     await browser?.close();
@@ -38,10 +44,16 @@ export interface OpenPage {
 }
 
 export async function open(
-    path: string, hash = '', options: BrowserContextOptions & { script?: () => void } = {},
+    path: string,
+    hash = '',
+    options: BrowserContextOptions & { script?: () => void } = {},
 ): Promise<OpenPage> {
     const { script, ...contextOptions } = options;
-    const context = await browser!.newContext({ viewport: { width: 1280, height: 800 }, locale: 'en-GB', ...contextOptions });
+    const context = await browser!.newContext({
+        viewport: { width: 1280, height: 800 },
+        locale: 'en-GB',
+        ...contextOptions,
+    });
     const page = await context.newPage();
     const address = `file://${path}`;
     const troubles: string[] = [];
@@ -79,10 +91,23 @@ const axe = readFileSync(join(root, 'build/viewer/node_modules/axe-core/axe.min.
 export async function axeFindings(page: Page): Promise<string[]> {
     await page.evaluate(axe);
     return page.evaluate(async () => {
-        type Result = { violations: { id: string; impact: string; nodes: { html: string; failureSummary: string }[] }[] };
+        type Result = {
+            violations: {
+                id: string;
+                impact: string;
+                nodes: { html: string; failureSummary: string }[];
+            }[];
+        };
         const run = (window as unknown as { axe: { run: () => Promise<Result> } }).axe;
         const { violations } = await run.run();
-        return violations.filter(({ impact }) => impact === 'serious' || impact === 'critical')
-            .map(({ id, nodes }) => `${id}: ${nodes.slice(0, 3).map((node) => `${node.html} ${node.failureSummary}`).join(' ')}`);
+        return violations
+            .filter(({ impact }) => impact === 'serious' || impact === 'critical')
+            .map(
+                ({ id, nodes }) =>
+                    `${id}: ${nodes
+                        .slice(0, 3)
+                        .map((node) => `${node.html} ${node.failureSummary}`)
+                        .join(' ')}`,
+            );
     });
 }

@@ -6,7 +6,13 @@ import { test } from 'node:test';
 
 import type { Point } from '../src/data/table';
 import { Bars, kBars } from '../src/geometry/bars';
-import { type Frame, frameOfAxis, frameOfPolygon, frameOfSupport, turnedAboutX } from '../src/geometry/frames';
+import {
+    type Frame,
+    frameOfAxis,
+    frameOfPolygon,
+    frameOfSupport,
+    turnedAboutX,
+} from '../src/geometry/frames';
 import { loadsOfCase } from '../src/geometry/loads';
 import { offsetOf, outlineOf, type Section } from '../src/geometry/outline';
 import { heldBy } from '../src/geometry/supports';
@@ -19,7 +25,10 @@ import { dataOf, pageOf, root, sample } from './support';
 const at = (x: number, y: number, z: number): Point => ({ x, y, z });
 
 function near(found: Point | undefined, expected: Point, what: string): void {
-    assert.ok(found && length(subtract(found, expected)) < 1e-12, `${what}: ${JSON.stringify(found)}`);
+    assert.ok(
+        found && length(subtract(found, expected)) < 1e-12,
+        `${what}: ${JSON.stringify(found)}`,
+    );
 }
 
 const numberOf = (word: string): number =>
@@ -40,7 +49,11 @@ test('the axes of bars are as the shared table says', () => {
 
 test('an orientation node is where z leads', () => {
     near(frameOfAxis(at(0, 0, 0), at(4, 0, 0), at(1, 5, 0))?.z, at(0, 1, 0), 'aside');
-    near(frameOfAxis(at(0, 0, 0), at(4, 0, 0), at(9, 0, 0))?.z, at(0, 0, 1), 'on the bar: as without');
+    near(
+        frameOfAxis(at(0, 0, 0), at(4, 0, 0), at(9, 0, 0))?.z,
+        at(0, 0, 1),
+        'on the bar: as without',
+    );
     assert.equal(frameOfAxis(at(0, 0, 0), at(0, 0, 0)), undefined);
     assert.equal(frameOfAxis(at(0, 0, 0), at(Infinity, 0, 0)), undefined);
     assert.equal(frameOfAxis(at(0, 0, 0), at(NaN, 0, 0)), undefined);
@@ -62,17 +75,45 @@ test('supports turn about z, or with their orientation node', () => {
 });
 
 const section = (change: Partial<Section>): Section => ({
-    code: 0, points: [], pointCount: 0, radius: 0, area: 0, inertiaY: 0, inertiaZ: 0, ...change,
+    code: 0,
+    points: [],
+    pointCount: 0,
+    radius: 0,
+    area: 0,
+    inertiaY: 0,
+    inertiaZ: 0,
+    ...change,
 });
 const code = (letter: string): number => letter.charCodeAt(0);
 
 test('outlines are of points, circles, or rectangles that stand for them', () => {
     const square = [0, 0, 1, 0, 1, 2, 0, 2];
-    assert.deepEqual(outlineOf(section({ code: code('F'), points: square, pointCount: 4 })).map(({ u, v }) => [u, v]),
-        [[0, 0], [1, 0], [1, 2], [0, 2]]);
-    const triples = outlineOf(section({ code: code('S'), points: [0, 0, 9, 1, 0, 9, 1, 2, 9], pointCount: 3 }));
-    assert.deepEqual(triples.map(({ u, v }) => [u, v]), [[0, 0], [1, 0], [1, 2]]);
-    const turned = outlineOf(section({ code: code('F'), points: [0, 2, 1, 2, 1, 0, 0, 0, 0, 0], pointCount: 5 }));
+    assert.deepEqual(
+        outlineOf(section({ code: code('F'), points: square, pointCount: 4 })).map(({ u, v }) => [
+            u,
+            v,
+        ]),
+        [
+            [0, 0],
+            [1, 0],
+            [1, 2],
+            [0, 2],
+        ],
+    );
+    const triples = outlineOf(
+        section({ code: code('S'), points: [0, 0, 9, 1, 0, 9, 1, 2, 9], pointCount: 3 }),
+    );
+    assert.deepEqual(
+        triples.map(({ u, v }) => [u, v]),
+        [
+            [0, 0],
+            [1, 0],
+            [1, 2],
+        ],
+    );
+    const turned = outlineOf(
+        section({ code: code('F'), points: [0, 2, 1, 2, 1, 0, 0, 0, 0, 0], pointCount: 5 }),
+    );
     assert.equal(turned.length, 4);
     const circle = outlineOf(section({ code: code('C'), radius: 0.5 }));
     assert.equal(circle.length, 24);
@@ -81,11 +122,16 @@ test('outlines are of points, circles, or rectangles that stand for them', () =>
     const area = 4 * stand[2]!.u * stand[2]!.v;
     assert.ok(area > 0);
     assert.deepEqual(outlineOf(section({})), []);
-    assert.deepEqual(outlineOf(section({ code: code('F'), points: [0, 0, NaN, 1, 1, 1], pointCount: 3 })), []);
+    assert.deepEqual(
+        outlineOf(section({ code: code('F'), points: [0, 0, NaN, 1, 1, 1], pointCount: 3 })),
+        [],
+    );
 });
 
 test('an offset puts that edge of the outline on the axis', () => {
-    const outline = outlineOf(section({ code: code('F'), points: [-1, -2, 1, -2, 1, 2, -1, 2], pointCount: 4 }));
+    const outline = outlineOf(
+        section({ code: code('F'), points: [-1, -2, 1, -2, 1, 2, -1, 2], pointCount: 4 }),
+    );
     assert.deepEqual(offsetOf(outline, 0), { u: 1, v: -2 });
     assert.deepEqual(offsetOf(outline, 4), { u: 0, v: 0 });
     assert.deepEqual(offsetOf(outline, 8), { u: -1, v: 2 });
@@ -95,7 +141,11 @@ test('an offset puts that edge of the outline on the axis', () => {
 function areaOf({ points, corners }: ReturnType<typeof trianglesOf>): number {
     let sum = 0;
     for (let i = 0; i < corners.length; i += 3) {
-        const [a, b, c] = [points[corners[i]!]!, points[corners[i + 1]!]!, points[corners[i + 2]!]!];
+        const [a, b, c] = [
+            points[corners[i]!]!,
+            points[corners[i + 1]!]!,
+            points[corners[i + 2]!]!,
+        ];
         sum += length(cross(subtract(b, a), subtract(c, a))) / 2;
     }
     return sum;
@@ -114,8 +164,13 @@ test('openings are cut out of surfaces, wherever these lie', () => {
 });
 
 test('supports are drawn by what they hold', () => {
-    const parts = (condition: 'void' | 'rigid' | 'elastic' | 'stop', stiffnesses: number[]): string =>
-        partsOf(heldBy(condition, stiffnesses)).map(([shape, axis]) => `${shape}${axis}`).join(' ');
+    const parts = (
+        condition: 'void' | 'rigid' | 'elastic' | 'stop',
+        stiffnesses: number[],
+    ): string =>
+        partsOf(heldBy(condition, stiffnesses))
+            .map(([shape, axis]) => `${shape}${axis}`)
+            .join(' ');
     assert.equal(parts('rigid', [1, 1, 1, 1, 1, 1]), 'block0');
     assert.equal(parts('rigid', [0, 0, 0, 0, 0, 0]), 'block0');
     assert.equal(parts('rigid', [1, 1, 1, 0, 0, 0]), 'pyramid0');
@@ -138,7 +193,8 @@ test('loads have the sizes and directions of their columns', async () => {
     near(add(line.arrows[0]!.at, model.centre), at(0, 10, 3.2), 'its place');
     assert.equal(line.label?.size, 4500);
     const surface = loads.find(({ item }) => model.identifierOf(item) === 506)!;
-    for (const { vector } of surface.arrows) near(vector, at(0, 0, -1500), 'an arrow of a surface load');
+    for (const { vector } of surface.arrows)
+        near(vector, at(0, 0, -1500), 'an arrow of a surface load');
     assert.ok(surface.arrows.length > 4);
 });
 

@@ -14,9 +14,11 @@ function frame(count: number): string {
     const side = Math.ceil((count / 3) ** (1 / 3));
     for (let i = 0; lines.length < count; ++i) {
         const [x, y, z] = [i % side, Math.floor(i / side) % side, Math.floor(i / side / side)];
-        const at = (dx: number, dy: number, dz: number): string => `${(x + dx) * 6} ${(y + dy) * 5.5} ${((z + dz) * 3.2).toFixed(1)}`;
+        const at = (dx: number, dy: number, dz: number): string =>
+            `${(x + dx) * 6} ${(y + dy) * 5.5} ${((z + dz) * 3.2).toFixed(1)}`;
         for (const end of [at(1, 0, 0), at(0, 1, 0), at(0, 0, 1)]) {
-            if (lines.length < count) lines.push(bar(lines.length + 1, at(0, 0, 0), end, `B${lines.length + 1}`));
+            if (lines.length < count)
+                lines.push(bar(lines.length + 1, at(0, 0, 0), end, `B${lines.length + 1}`));
         }
     }
     return `${kHead}#Elements\n${lines.join('\n')}\n`;

@@ -13,7 +13,9 @@ after(closeBrowser);
 // The words of `tamur info` for each table, as the contract has them.
 function tablesByPlainName(): Map<string, string> {
     const contract = readFileSync(join(root, 'idl/TAMURReader.idl'), 'utf8');
-    return new Map([...contract.matchAll(/\/\/ Table (\w+): (.*)/g)].map(([, table, name]) => [name!, table!]));
+    return new Map(
+        [...contract.matchAll(/\/\/ Table (\w+): (.*)/g)].map(([, table, name]) => [name!, table!]),
+    );
 }
 
 for (const name of samples) {
@@ -29,7 +31,10 @@ for (const name of samples) {
         }
         assert.ok(compared > 20);
         // The list of kinds says the same.
-        assert.match(await page.locator('#panel-model').innerText(), new RegExp(`Bars\\s+${counts.Filaires}`));
+        assert.match(
+            await page.locator('#panel-model').innerText(),
+            new RegExp(`Bars\\s+${counts.Filaires}`),
+        );
         await close();
     });
 }
@@ -41,7 +46,10 @@ interface Seen {
 }
 const distanceTo = ({ a, b }: Seen, x: number, y: number): number => {
     const [dx, dy] = [b.x - a.x, b.y - a.y];
-    const t = Math.max(0, Math.min(1, ((x - a.x) * dx + (y - a.y) * dy) / (dx * dx + dy * dy || 1)));
+    const t = Math.max(
+        0,
+        Math.min(1, ((x - a.x) * dx + (y - a.y) * dy) / (dx * dx + dy * dy || 1)),
+    );
     return Math.hypot(a.x + t * dx - x, a.y + t * dy - y);
 };
 
@@ -50,15 +58,29 @@ const seed = Date.now() % 100000;
 function shuffled<Value>(values: Value[]): Value[] {
     let state = seed;
     const random = (): number => (state = (state * 48271) % 2147483647) / 2147483647;
-    return values.map((value) => ({ value, at: random() })).sort((a, b) => a.at - b.at).map(({ value }) => value);
+    return values
+        .map((value) => ({ value, at: random() }))
+        .sort((a, b) => a.at - b.at)
+        .map(({ value }) => value);
 }
 
 test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
     const { page, close } = await open(pageOf(sample('batiment')));
     // Only bars, so that no symbol is in front of them.
-    const others = ['Surfaces', 'Openings', 'Point supports', 'Line supports', 'Surface supports', 'Masses', 'Releases'];
-    for (const name of others) await page.getByRole('checkbox', { name: new RegExp(`^${name}`) }).uncheck();
-    const identifiers = (JSON.parse(run('dump', sample('batiment'))) as { Filaires: { identifier: number }[] }).Filaires.map((bar) => bar.identifier);
+    const others = [
+        'Surfaces',
+        'Openings',
+        'Point supports',
+        'Line supports',
+        'Surface supports',
+        'Masses',
+        'Releases',
+    ];
+    for (const name of others)
+        await page.getByRole('checkbox', { name: new RegExp(`^${name}`) }).uncheck();
+    const identifiers = (
+        JSON.parse(run('dump', sample('batiment'))) as { Filaires: { identifier: number }[] }
+    ).Filaires.map((bar) => bar.identifier);
     const clicked = new Set<number>();
     // From several sides: what is behind another bar here is not there.
     for (const key of ['1', '2', '4', '1']) {
@@ -66,14 +88,21 @@ test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
         await page.keyboard.press(key);
         if (clicked.size > 0) for (let i = 0; i < 3; ++i) await page.keyboard.press('ArrowLeft');
         await page.waitForTimeout(50);
-        const seen = await page.evaluate((all) => all.map((identifier) => {
-            const [a, b] = window.tamur.project('Filaires', identifier);
-            return { identifier, a: a!, b: b! };
-        }), identifiers);
+        const seen = await page.evaluate(
+            (all) =>
+                all.map((identifier) => {
+                    const [a, b] = window.tamur.project('Filaires', identifier);
+                    return { identifier, a: a!, b: b! };
+                }),
+            identifiers,
+        );
         const { width, height } = (await page.locator('#model').boundingBox())!;
         for (const bar of shuffled(seen)) {
             if (clicked.has(bar.identifier) || clicked.size >= 50) continue;
-            const [x, y] = [Math.floor((bar.a.x + bar.b.x) / 2) + 0.5, Math.floor((bar.a.y + bar.b.y) / 2) + 0.5];
+            const [x, y] = [
+                Math.floor((bar.a.x + bar.b.x) / 2) + 0.5,
+                Math.floor((bar.a.y + bar.b.y) / 2) + 0.5,
+            ];
             const isFree = seen.every((other) => other === bar || distanceTo(other, x, y) > 3);
             // Not below the tools.
             if (!isFree || x < 0 || y < 100 || x > width || y > height) continue;
@@ -84,7 +113,10 @@ test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
             }
             await clickOnModel(page, x, y);
             const selected = await page.evaluate(() => window.tamur.selected());
-            assert.deepEqual(selected.map((item) => `${item.table} ${item.identifier}`), [`Filaires ${bar.identifier}`]);
+            assert.deepEqual(
+                selected.map((item) => `${item.table} ${item.identifier}`),
+                [`Filaires ${bar.identifier}`],
+            );
             clicked.add(bar.identifier);
             await page.keyboard.press('Escape');
         }
@@ -95,16 +127,25 @@ test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
 
 test('a case shows its loads and no others', async () => {
     const { page, close } = await open(pageOf(sample('batiment')));
-    const dump = JSON.parse(run('dump', sample('batiment'))) as Record<string, { identifier: number; NumCas: number }[]>;
+    const dump = JSON.parse(run('dump', sample('batiment'))) as Record<
+        string,
+        { identifier: number; NumCas: number }[]
+    >;
     const tables = ['ChargesPonctuelles', 'ChargesLineaires', 'ChargesSurfaciques'];
     await page.getByRole('tab', { name: 'Loads' }).click();
     let shown = 0;
     for (const loadCase of [1, 2, 3, 4, 5, 6, 7, 101]) {
         await page.locator(`.case input[value="${loadCase}"]`).check();
         const loads = await page.evaluate(() => window.tamur.loads());
-        const expected = tables.flatMap((table) => dump[table]!.filter((load) => load.NumCas === loadCase)
-            .map((load) => `${table} ${load.identifier}`));
-        assert.deepEqual(loads.map((load) => `${load.table} ${load.identifier}`).sort(), expected.sort());
+        const expected = tables.flatMap((table) =>
+            dump[table]!.filter((load) => load.NumCas === loadCase).map(
+                (load) => `${table} ${load.identifier}`,
+            ),
+        );
+        assert.deepEqual(
+            loads.map((load) => `${load.table} ${load.identifier}`).sort(),
+            expected.sort(),
+        );
         assert.ok(loads.every((load) => load.arrows > 0));
         shown += loads.length;
     }
@@ -124,14 +165,21 @@ test('a case shows its loads and no others', async () => {
 const kHostile = '</script><img/src=x/onerror=alert(1)>';
 
 test('texts of a model are texts', async () => {
-    const file = modelFile('hostile-texts', `${kHead}#Groupes\n2 1 2 ${kHostile} O\n#Materiaux\n${kHostile} 1e10 0.2 25000 1e-5 0.05\n` +
-        `#Cas\n1 ${kHostile} 1 ${kHostile} 0\n#Elements\n2 1 0 2 1 0 0 0 5 0 0 ${kHostile} 0 0 0 1 2 0 0 1 1 1 1 1 1 5\n` +
-        `4 2 0 1 1 0 0 0 ${kHostile} 0 0 0 1 1 0 0 0 0 0 0 0 0\n5 3 0 1 0 2 0 0 0 0 0 1 1 0 0 -1 0 0 0\n`);
+    const file = modelFile(
+        'hostile-texts',
+        `${kHead}#Groupes\n2 1 2 ${kHostile} O\n#Materiaux\n${kHostile} 1e10 0.2 25000 1e-5 0.05\n` +
+            `#Cas\n1 ${kHostile} 1 ${kHostile} 0\n#Elements\n2 1 0 2 1 0 0 0 5 0 0 ${kHostile} 0 0 0 1 2 0 0 1 1 1 1 1 1 5\n` +
+            `4 2 0 1 1 0 0 0 ${kHostile} 0 0 0 1 1 0 0 0 0 0 0 0 0\n5 3 0 1 0 2 0 0 0 0 0 1 1 0 0 -1 0 0 0\n`,
+    );
     const { page, close } = await open(pageOf(file), '#bar=1&case=1&table=Filaires&show=labels');
     await page.locator('#search').fill('</script');
     await page.locator('[role=option]').first().waitFor();
-    assert.match(await page.locator('.details').innerText(), /<\/script><img\/src=x\/onerror=alert\(1\)>/);
-    for (const tab of ['Loads', 'Findings', 'Model']) await page.getByRole('tab', { name: tab }).click();
+    assert.match(
+        await page.locator('.details').innerText(),
+        /<\/script><img\/src=x\/onerror=alert\(1\)>/,
+    );
+    for (const tab of ['Loads', 'Findings', 'Model'])
+        await page.getByRole('tab', { name: tab }).click();
     assert.equal(await page.locator('img').count(), 0);
     assert.ok(!readFileSync(pageOf(file), 'utf8').includes('<img'));
     await close();
@@ -140,7 +188,10 @@ test('texts of a model are texts', async () => {
 test('the policy allows the page and nothing else', async () => {
     const { page, close } = await open(pageOf(sample('portique')));
     const policy = await page.locator('meta[http-equiv]').getAttribute('content');
-    assert.match(policy!, /^default-src 'none'; script-src 'sha256-[^']+'; style-src 'sha256-[^']+'; base-uri 'none'; form-action 'none'$/);
+    assert.match(
+        policy!,
+        /^default-src 'none'; script-src 'sha256-[^']+'; style-src 'sha256-[^']+'; base-uri 'none'; form-action 'none'$/,
+    );
     const ran = await page.evaluate(() => {
         const script = document.createElement('script');
         script.textContent = 'window.intruded = true';
@@ -161,10 +212,15 @@ test('an address leads to a view, and a view has an address', async () => {
         return { loadCase, colourBy, solids, orthographic, selected: window.tamur.selected() };
     });
     assert.deepEqual(state, {
-        loadCase: 2, colourBy: 'section', solids: true, orthographic: true,
+        loadCase: 2,
+        colourBy: 'section',
+        solids: true,
+        orthographic: true,
         selected: [{ table: 'Filaires', identifier: 101, rank: 0 }],
     });
-    await page.locator('.case input[value="1"]').evaluate((radio: HTMLInputElement) => radio.click());
+    await page
+        .locator('.case input[value="1"]')
+        .evaluate((radio: HTMLInputElement) => radio.click());
     assert.match(page.url(), /#bar=101&case=1&colour=section&show=solids&parallel=1$/);
     // With the eye: the same picture elsewhere.
     await page.locator('#model').focus();
@@ -178,12 +234,17 @@ test('an address leads to a view, and a view has an address', async () => {
     await first.close();
     const second = await open(path, `#${address.split('#')[1]}`);
     const there = await second.page.evaluate(() => window.tamur.project('Filaires', 110));
-    at.forEach((point, i) => assert.ok(Math.hypot(point!.x - there[i]!.x, point!.y - there[i]!.y) < 1));
+    at.forEach((point, i) =>
+        assert.ok(Math.hypot(point!.x - there[i]!.x, point!.y - there[i]!.y) < 1),
+    );
     // Another address in the same page.
     await second.page.evaluate(() => (location.hash = '#node=1&case=none'));
     await second.page.waitForFunction(() => window.tamur.selected()[0]?.table === 'Nodes');
     await second.close();
-    const nonsense = await open(path, '#bar=999999&case=x&eye=1,2&colour=none&table=None&<script>=1');
+    const nonsense = await open(
+        path,
+        '#bar=999999&case=x&eye=1,2&colour=none&table=None&<script>=1',
+    );
     assert.deepEqual(await nonsense.page.evaluate(() => window.tamur.selected()), []);
     await nonsense.close();
 });
@@ -201,8 +262,13 @@ test('the tables sort, search, and lead to the model by the keyboard alone', asy
     assert.equal(await page.locator('.grid-row.chosen').count(), 1);
     await page.getByRole('columnheader', { name: 'Number' }).getByRole('button').press('Enter');
     await page.getByRole('columnheader', { name: 'Number' }).getByRole('button').press('Enter');
-    const identifiers = (JSON.parse(run('dump', sample('batiment'))) as { Filaires: { identifier: number }[] }).Filaires.map((bar) => bar.identifier);
-    assert.equal(await page.locator('.rows [role=gridcell]').first().innerText(), String(Math.max(...identifiers)));
+    const identifiers = (
+        JSON.parse(run('dump', sample('batiment'))) as { Filaires: { identifier: number }[] }
+    ).Filaires.map((bar) => bar.identifier);
+    assert.equal(
+        await page.locator('.rows [role=gridcell]').first().innerText(),
+        String(Math.max(...identifiers)),
+    );
     await page.getByRole('searchbox', { name: 'Filter' }).fill('RDC-L5');
     await page.getByText('1 rows').waitFor();
     const download = page.waitForEvent('download');
@@ -238,8 +304,14 @@ test('the keys turn, hide, isolate and show', async () => {
     assert.equal(await page.evaluate(() => window.tamur.state().isolated?.size), 1);
     await page.keyboard.press('a');
     await page.keyboard.press('h');
-    assert.deepEqual(await page.evaluate(() => [window.tamur.state().isolated, window.tamur.state().hiddenItems.size, window.tamur.selected().length]),
-        [null, 1, 0].map((value) => value ?? undefined));
+    assert.deepEqual(
+        await page.evaluate(() => [
+            window.tamur.state().isolated,
+            window.tamur.state().hiddenItems.size,
+            window.tamur.selected().length,
+        ]),
+        [null, 1, 0].map((value) => value ?? undefined),
+    );
     await page.keyboard.press('?');
     assert.ok(await page.locator('dialog').isVisible());
     await page.keyboard.press('Escape');
@@ -250,12 +322,20 @@ test('findings are listed, and lead to what they are about', async () => {
     const { page, close } = await open(pageOf(sample('erreurs')), '', { locale: 'fr-FR' });
     assert.equal(await page.locator('html').getAttribute('lang'), 'fr');
     await page.getByRole('tab', { name: 'Constats' }).click();
-    const found = JSON.parse(run('check', '--format', 'json', '--exit-zero', '--all', sample('erreurs'))) as
-        { files?: { findings: unknown[] }[]; findings?: unknown[] };
-    const count = found.files ? found.files.flatMap((file) => file.findings).length : found.findings!.length;
+    const found = JSON.parse(
+        run('check', '--format', 'json', '--exit-zero', '--all', sample('erreurs')),
+    ) as { files?: { findings: unknown[] }[]; findings?: unknown[] };
+    const count = found.files
+        ? found.files.flatMap((file) => file.findings).length
+        : found.findings!.length;
     assert.equal(await page.locator('.findings li').count(), count);
     await page.locator('.findings button', { hasText: 'TMR420' }).click();
-    assert.deepEqual(await page.evaluate(() => window.tamur.selected().map((item) => [item.table, item.identifier])), [['AppuisPonctuels', 44]]);
+    assert.deepEqual(
+        await page.evaluate(() =>
+            window.tamur.selected().map((item) => [item.table, item.identifier]),
+        ),
+        [['AppuisPonctuels', 44]],
+    );
     await close();
 });
 
@@ -279,17 +359,26 @@ test('the picture can be saved, and shows something', async () => {
     await (await download).saveAs(path);
     const { width, height } = (await page.locator('#model').boundingBox())!;
     const png = readFileSync(path);
-    assert.deepEqual([png.readUInt32BE(16), png.readUInt32BE(20)], [Math.round(width), Math.round(height)]);
+    assert.deepEqual(
+        [png.readUInt32BE(16), png.readUInt32BE(20)],
+        [Math.round(width), Math.round(height)],
+    );
     assert.ok(png.length > 20000);
     await close();
 });
 
 for (const [name, options] of Object.entries({
-    light: {}, dark: { colorScheme: 'dark' as const, locale: 'fr-FR' }, phone: { viewport: { width: 360, height: 740 }, hasTouch: true },
+    light: {},
+    dark: { colorScheme: 'dark' as const, locale: 'fr-FR' },
+    phone: { viewport: { width: 360, height: 740 }, hasTouch: true },
     'zoom of 400 %': { viewport: { width: 320, height: 256 } },
 })) {
     test(`axe-core has no serious finding: ${name}`, async () => {
-        const { page, close } = await open(pageOf(sample('erreurs')), '#bar=10&table=Filaires&colour=group', options);
+        const { page, close } = await open(
+            pageOf(sample('erreurs')),
+            '#bar=10&table=Filaires&colour=group',
+            options,
+        );
         await page.locator('#search').fill('1');
         await page.locator('[role=option]').first().waitFor();
         assert.deepEqual(await axeFindings(page), []);
@@ -302,7 +391,10 @@ for (const [name, options] of Object.entries({
         await page.locator('#tab-findings').click();
         assert.deepEqual(await axeFindings(page), []);
         // Nothing is wider than the page.
-        const [width, inner] = await page.evaluate(() => [document.documentElement.scrollWidth, window.innerWidth]);
+        const [width, inner] = await page.evaluate(() => [
+            document.documentElement.scrollWidth,
+            window.innerWidth,
+        ]);
         assert.ok(width! <= inner!, `${width} in ${inner}`);
         await close();
     });
@@ -312,8 +404,14 @@ test('without WebGL the tables remain', async () => {
     const { page, close } = await open(pageOf(sample('hall')), '', {
         script: () => {
             const { getContext } = HTMLCanvasElement.prototype;
-            HTMLCanvasElement.prototype.getContext = function (this: HTMLCanvasElement, kind: string, ...rest: unknown[]) {
-                return kind.startsWith('webgl') ? null : (getContext as (...all: unknown[]) => unknown).call(this, kind, ...rest);
+            HTMLCanvasElement.prototype.getContext = function (
+                this: HTMLCanvasElement,
+                kind: string,
+                ...rest: unknown[]
+            ) {
+                return kind.startsWith('webgl')
+                    ? null
+                    : (getContext as (...all: unknown[]) => unknown).call(this, kind, ...rest);
             } as typeof getContext;
         },
     });

@@ -51,9 +51,11 @@ export function readInts(block: Uint8Array, what: IntsDescription): Int32Array {
     if (what.as === 'constant') return new Int32Array(what.count).fill(what.value);
     const bytes = joinPlanes(block, what.at, what.bytes, what.count).buffer;
     const written =
-        what.bytes === 1 ? new Int8Array(bytes)
-        : what.bytes === 2 ? new Int16Array(bytes)
-        : new Int32Array(bytes);
+        what.bytes === 1
+            ? new Int8Array(bytes)
+            : what.bytes === 2
+              ? new Int16Array(bytes)
+              : new Int32Array(bytes);
     const values = Int32Array.from(written);
     if (what.as === 'differences') {
         // Stored as 32 bits, sums go around like those of the writer.
@@ -78,7 +80,9 @@ export function readReals(block: Uint8Array, what: RealsDescription): Float64Arr
 }
 
 export function readTexts(block: Uint8Array, what: BytesDescription): string[] {
-    const texts = new TextDecoder().decode(block.subarray(what.at, what.at + what.count)).split('\0');
+    const texts = new TextDecoder()
+        .decode(block.subarray(what.at, what.at + what.count))
+        .split('\0');
     texts.pop(); // what follows the last NUL
     return texts;
 }

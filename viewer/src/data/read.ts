@@ -11,7 +11,10 @@ interface Header {
 export class Data {
     readonly tables = new Map<string, Table>();
 
-    constructor(header: Header, readonly pool: Pool) {
+    constructor(
+        header: Header,
+        readonly pool: Pool,
+    ) {
         for (const what of header.tables) this.tables.set(what.name, new Table(what, pool));
     }
 

@@ -41,7 +41,10 @@ export class Bars {
         if (!frame) return undefined;
         const section = this.number('StartSection', rank);
         const code = this.model.data.table('Sections').column('epureSec.Code');
-        const written = angleAsWritten(this.number('Angle', rank), section < 0 ? 0 : code.number(section));
+        const written = angleAsWritten(
+            this.number('Angle', rank),
+            section < 0 ? 0 : code.number(section),
+        );
         return turnedAboutX(frame, written);
     }
 
@@ -50,22 +53,27 @@ export class Bars {
         if (!outline) {
             const table = this.model.data.table('Sections');
             const number = (name: string): number => table.column(name).number(section);
-            outline = section < 0 ? [] : outlineOf({
-                code: number('epureSec.Code'),
-                points: table.column('epureSec.pTabPoints').numbers(section),
-                pointCount: number('epureSec.nbPoints'),
-                radius: number('epureSec.dfRadius'),
-                area: number('Sx'),
-                inertiaY: number('Iy'),
-                inertiaZ: number('Iz'),
-            });
+            outline =
+                section < 0
+                    ? []
+                    : outlineOf({
+                          code: number('epureSec.Code'),
+                          points: table.column('epureSec.pTabPoints').numbers(section),
+                          pointCount: number('epureSec.nbPoints'),
+                          radius: number('epureSec.dfRadius'),
+                          area: number('Sx'),
+                          inertiaY: number('Iy'),
+                          inertiaZ: number('Iz'),
+                      });
             this.outlines.set(section, outline);
         }
         return outline;
     }
 
     // The outlines at both ends, with as many points each; nothing for what has none.
-    placedOutlines(rank: number): { start: Point[]; end: Point[]; plane: PlanePoint[] } | undefined {
+    placedOutlines(
+        rank: number,
+    ): { start: Point[]; end: Point[]; plane: PlanePoint[] } | undefined {
         const frame = this.frame(rank);
         const [from, to] = this.model.placeOf(this.model.item(kBars, rank));
         if (!frame || !from || !to) return undefined;

@@ -23,7 +23,14 @@ function turnOf(degrees: number): [cosine: number, sine: number] {
     if (!Number.isFinite(angle)) return [1, 0];
     const quarters = angle / 90;
     if (Number.isInteger(quarters)) {
-        return ([[1, 0], [0, 1], [-1, 0], [0, -1]] as const)[(quarters + 4) % 4] as [number, number];
+        return (
+            [
+                [1, 0],
+                [0, 1],
+                [-1, 0],
+                [0, -1],
+            ] as const
+        )[(quarters + 4) % 4] as [number, number];
     }
     return [Math.cos((angle * Math.PI) / 180), Math.sin((angle * Math.PI) / 180)];
 }

@@ -37,22 +37,25 @@ function frameOf(model: Model, bars: Bars, item: Item, corners: Point[]): Frame 
     if (table.column('Repere').number(item.rank) !== kLocal) return kGlobal;
     const bar = table.column('bar').raw[item.rank] ?? -1;
     const surface = table.column('surface').raw[item.rank] ?? -1;
-    const ofCarrier = bar >= 0
-        ? bars.frame(bar)
-        : surface >= 0
-            ? frameOfPolygon(model.placeOf(model.item(kFrameKinds.surface, surface)))
-            : undefined;
+    const ofCarrier =
+        bar >= 0
+            ? bars.frame(bar)
+            : surface >= 0
+              ? frameOfPolygon(model.placeOf(model.item(kFrameKinds.surface, surface)))
+              : undefined;
     const [start, end] = corners;
-    const own = item.kind === kSurfaceLoads
-        ? frameOfPolygon(corners)
-        : start && end && frameOfAxis(start, end);
+    const own =
+        item.kind === kSurfaceLoads
+            ? frameOfPolygon(corners)
+            : start && end && frameOfAxis(start, end);
     return ofCarrier ?? own ?? kGlobal;
 }
 
 function vectors(model: Model, item: Item, frame: Frame): { force: Point; moment: Point } {
     const table = model.tableOf(item.kind);
     const read = (x: string, y: string, z: string): Point => {
-        const at = (name: string): number => (table.has(name) ? table.column(name).number(item.rank) : 0);
+        const at = (name: string): number =>
+            table.has(name) ? table.column(name).number(item.rank) : 0;
         const vector = toGlobal(frame, { x: at(x), y: at(y), z: at(z) });
         return Number.isFinite(length(vector)) ? vector : { x: 0, y: 0, z: 0 };
     };
@@ -86,7 +89,8 @@ function lineLoad(model: Model, bars: Bars, item: Item, corners: Point[], step: 
                 ridge.push(arrows.length);
                 arrows.push({ at, vector: scale(force, intensity), isMoment: false });
             }
-            if (length(moment) > 0) arrows.push({ at, vector: scale(moment, intensity), isMoment: true });
+            if (length(moment) > 0)
+                arrows.push({ at, vector: scale(moment, intensity), isMoment: true });
         }
     }
     return withLabel({ item, arrows, ridge, isArea: false, label: undefined });
@@ -117,7 +121,12 @@ function isInside(frame: Frame, corners: Point[], point: Point): boolean {
     const [px, py] = [dot(point, frame.x), dot(point, frame.y)];
     corners.forEach((a, i) => {
         const b = corners[(i + 1) % corners.length]!;
-        const [ax, ay, bx, by] = [dot(a, frame.x), dot(a, frame.y), dot(b, frame.x), dot(b, frame.y)];
+        const [ax, ay, bx, by] = [
+            dot(a, frame.x),
+            dot(a, frame.y),
+            dot(b, frame.x),
+            dot(b, frame.y),
+        ];
         if (ay > py !== by > py && px < ((bx - ax) * (py - ay)) / (by - ay) + ax) inside = !inside;
     });
     return inside;
@@ -143,16 +152,25 @@ function gridIn(frame: Frame, corners: Point[], step: number): Point[] {
     return points;
 }
 
-function surfaceLoad(model: Model, bars: Bars, item: Item, corners: Point[], step: number): DrawnLoad {
+function surfaceLoad(
+    model: Model,
+    bars: Bars,
+    item: Item,
+    corners: Point[],
+    step: number,
+): DrawnLoad {
     const frame = frameOfPolygon(corners);
     const arrows: Arrow[] = [];
     const ridge: number[] = [];
     if (frame) {
         const { force } = vectors(model, item, frameOf(model, bars, item, corners));
         const table = model.tableOf(item.kind);
-        const values = ['intensiteI', 'intensiteJ', 'intensiteK'].map((name) => table.column(name).number(item.rank));
+        const values = ['intensiteI', 'intensiteJ', 'intensiteK'].map((name) =>
+            table.column(name).number(item.rank),
+        );
         const intensity = intensityOver(corners, values);
-        const push = (at: Point): number => arrows.push({ at, vector: scale(force, intensity(at)), isMoment: false }) - 1;
+        const push = (at: Point): number =>
+            arrows.push({ at, vector: scale(force, intensity(at)), isMoment: false }) - 1;
         if (length(force) > 0) {
             for (const corner of corners.slice(0, 64)) ridge.push(push(corner));
             if (ridge.length > 0) ridge.push(ridge[0]!);
@@ -195,4 +213,5 @@ export function loadsOfCase(model: Model, bars: Bars, number: number, step: numb
     });
 }
 
-export const tailOf = ({ at, vector }: Arrow, factor: number): Point => add(at, scale(vector, -factor));
+export const tailOf = ({ at, vector }: Arrow, factor: number): Point =>
+    add(at, scale(vector, -factor));

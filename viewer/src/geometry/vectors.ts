@@ -9,7 +9,11 @@ export function isSensible(p: Point): boolean {
 }
 
 export const add = (a: Point, b: Point): Point => ({ x: a.x + b.x, y: a.y + b.y, z: a.z + b.z });
-export const subtract = (a: Point, b: Point): Point => ({ x: a.x - b.x, y: a.y - b.y, z: a.z - b.z });
+export const subtract = (a: Point, b: Point): Point => ({
+    x: a.x - b.x,
+    y: a.y - b.y,
+    z: a.z - b.z,
+});
 export const scale = (a: Point, by: number): Point => ({ x: a.x * by, y: a.y * by, z: a.z * by });
 export const dot = (a: Point, b: Point): number => a.x * b.x + a.y * b.y + a.z * b.z;
 export const cross = (a: Point, b: Point): Point => ({

@@ -11,7 +11,11 @@ import { Segments } from './builders';
 import type { SharedUniforms } from './materials';
 import type { Rgb } from './states';
 
-export const kAxisColours: Rgb[] = [[214, 64, 64], [52, 150, 70], [60, 110, 220]];
+export const kAxisColours: Rgb[] = [
+    [214, 64, 64],
+    [52, 150, 70],
+    [60, 110, 220],
+];
 const kSurfaces = kind('Surfaciques');
 // More would hide what they are of.
 const kMost = 20000;
@@ -29,7 +33,12 @@ export function drawLocalAxes(model: Model, bars: Bars, shared: SharedUniforms):
         const [start, end] = model.placeOf(item);
         const frame = bars.frame(rank);
         if (!start || !end || !frame) continue;
-        addAt(middleOf([start, end]), frame, Math.min(extent / 30, length(subtract(end, start)) / 4), item.number);
+        addAt(
+            middleOf([start, end]),
+            frame,
+            Math.min(extent / 30, length(subtract(end, start)) / 4),
+            item.number,
+        );
     }
     for (let rank = 0; rank < Math.min(kMost, model.tableOf(kSurfaces).rows); ++rank) {
         const item = model.item(kSurfaces, rank);

@@ -27,7 +27,12 @@ export function drawBarAxes(model: Model, shared: SharedUniforms): Object3D[] {
     return [drawSegments(places, items, shared, { width: 2 })];
 }
 
-export function drawProfiles(bars: Bars, model: Model, ranks: Iterable<number>, shared: SharedUniforms): Object3D[] {
+export function drawProfiles(
+    bars: Bars,
+    model: Model,
+    ranks: Iterable<number>,
+    shared: SharedUniforms,
+): Object3D[] {
     const faces = new Faces();
     for (const rank of ranks) {
         const placed = bars.placedOutlines(rank);

@@ -1,7 +1,13 @@
 // Lists that grow, and what is drawn of them.
 import {
-    BufferAttribute, BufferGeometry, InstancedBufferAttribute, InstancedBufferGeometry, LineSegments,
-    Mesh, type Object3D, Uint32BufferAttribute,
+    BufferAttribute,
+    BufferGeometry,
+    InstancedBufferAttribute,
+    InstancedBufferGeometry,
+    LineSegments,
+    Mesh,
+    type Object3D,
+    Uint32BufferAttribute,
 } from 'three';
 
 import type { Point } from '../data/table';
@@ -32,13 +38,23 @@ export class Segments {
         this.items.push(item);
     }
     draw(shared: SharedUniforms, look: Look, order = 2): Mesh | LineSegments {
-        return drawSegments(Float32Array.from(this.places), Uint32Array.from(this.items), shared, look, order);
+        return drawSegments(
+            Float32Array.from(this.places),
+            Uint32Array.from(this.items),
+            shared,
+            look,
+            order,
+        );
     }
 }
 
 // Six coordinates and an item each.
 export function drawSegments(
-    places: Float32Array, items: Uint32Array, shared: SharedUniforms, look: Look, order = 2,
+    places: Float32Array,
+    items: Uint32Array,
+    shared: SharedUniforms,
+    look: Look,
+    order = 2,
 ): Mesh | LineSegments {
     return items.length > kMostThick
         ? drawThin(places, items, shared, look, order)
@@ -46,7 +62,11 @@ export function drawSegments(
 }
 
 function drawThin(
-    places: Float32Array, items: Uint32Array, shared: SharedUniforms, look: Look, order: number,
+    places: Float32Array,
+    items: Uint32Array,
+    shared: SharedUniforms,
+    look: Look,
+    order: number,
 ): LineSegments {
     const geometry = new BufferGeometry();
     const both = new Uint32Array(2 * items.length);
@@ -57,7 +77,11 @@ function drawThin(
 }
 
 function drawThick(
-    places: Float32Array, items: Uint32Array, shared: SharedUniforms, look: Look, order: number,
+    places: Float32Array,
+    items: Uint32Array,
+    shared: SharedUniforms,
+    look: Look,
+    order: number,
 ): Mesh {
     const geometry = new InstancedBufferGeometry();
     const corners = new Float32Array([0, -1, 0, 1, -1, 0, 1, 1, 0, 0, 1, 0]);
@@ -128,7 +152,10 @@ export class Symbols {
         attribute('anchor', this.anchors, 3);
         attribute('turn', this.turns, 4);
         attribute('size', this.sizes, 1);
-        geometry.setAttribute('item', new InstancedBufferAttribute(Uint32Array.from(this.items), 1));
+        geometry.setAttribute(
+            'item',
+            new InstancedBufferAttribute(Uint32Array.from(this.items), 1),
+        );
         geometry.instanceCount = this.items.length;
         return shown(new Mesh(geometry, makeMaterial('symbol', shared, look)), order);
     }

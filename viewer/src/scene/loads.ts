@@ -23,7 +23,8 @@ export interface DrawnLoads {
 // is as long as the others.
 function factors(loads: DrawnLoad[], longest: number): DrawnLoads['factorOf'] {
     const largest = new Map<string, number>();
-    const keyOf = (load: DrawnLoad, isMoment: boolean): string => `${load.item.kind.table} ${isMoment}`;
+    const keyOf = (load: DrawnLoad, isMoment: boolean): string =>
+        `${load.item.kind.table} ${isMoment}`;
     for (const load of loads) {
         for (const { vector, isMoment } of load.arrows) {
             const key = keyOf(load, isMoment);
@@ -34,7 +35,11 @@ function factors(loads: DrawnLoad[], longest: number): DrawnLoads['factorOf'] {
 }
 
 export function drawLoads(
-    model: Model, bars: Bars, loadCase: number, scale: number, shared: SharedUniforms,
+    model: Model,
+    bars: Bars,
+    loadCase: number,
+    scale: number,
+    shared: SharedUniforms,
 ): DrawnLoads {
     const extent = Math.max(length(subtract(model.box.high, model.box.low)), 1e-9);
     const loads = loadsOfCase(model, bars, loadCase, extent / 30);
@@ -49,7 +54,10 @@ export function drawLoads(
         for (const arrow of load.arrows) {
             if (length(arrow.vector) === 0) continue;
             const tail = tailOf(arrow, factor(arrow));
-            const frame: Frame | undefined = frameOfAxis(add(tail, model.centre), add(arrow.at, model.centre));
+            const frame: Frame | undefined = frameOfAxis(
+                add(tail, model.centre),
+                add(arrow.at, model.centre),
+            );
             if (!frame) continue;
             lines.add(tail, arrow.at, item);
             heads.add(arrow.at, frame, kHeadPixels, item);
@@ -66,7 +74,9 @@ export function drawLoads(
         faces: faces.isEmpty ? [] : [faces.draw(shared, { opacity: 0.1 })],
         lines: [
             lines.draw(shared, { width: 1.25 }, 4),
-            ...[heads, secondHeads].filter((list) => !list.isEmpty).map((list) => list.draw(shared, {}, 4)),
+            ...[heads, secondHeads]
+                .filter((list) => !list.isEmpty)
+                .map((list) => list.draw(shared, {}, 4)),
         ],
         loads,
         factorOf,

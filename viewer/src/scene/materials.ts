@@ -1,7 +1,20 @@
-import { DoubleSide, GLSL3, RawShaderMaterial, type Texture, Vector2, Vector3, Vector4 } from 'three';
+import {
+    DoubleSide,
+    GLSL3,
+    RawShaderMaterial,
+    type Texture,
+    Vector2,
+    Vector3,
+    Vector4,
+} from 'three';
 
 import {
-    kFaceFragment, kFaceVertex, kLineFragment, kSymbolVertex, kThickVertex, kThinVertex,
+    kFaceFragment,
+    kFaceVertex,
+    kLineFragment,
+    kSymbolVertex,
+    kThickVertex,
+    kThinVertex,
 } from './shaders';
 import type { Rgb } from './states';
 
@@ -42,7 +55,9 @@ const kShaders = {
 } as const;
 
 export function makeMaterial(
-    what: keyof typeof kShaders, shared: SharedUniforms, look: Look = {},
+    what: keyof typeof kShaders,
+    shared: SharedUniforms,
+    look: Look = {},
 ): RawShaderMaterial {
     const [vertexShader, fragmentShader] = kShaders[what];
     const opacity = look.opacity ?? 1;

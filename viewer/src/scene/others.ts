@@ -11,7 +11,12 @@ import type { SharedUniforms } from './materials';
 import * as shapes from './shapes';
 import { drawPolygons } from './surfaces';
 
-export function drawLines(model: Model, ofKind: Kind, shared: SharedUniforms, width: number): Object3D[] {
+export function drawLines(
+    model: Model,
+    ofKind: Kind,
+    shared: SharedUniforms,
+    width: number,
+): Object3D[] {
     const segments = new Segments();
     for (let rank = 0; rank < model.tableOf(ofKind).rows; ++rank) {
         const item = model.item(ofKind, rank);
@@ -22,7 +27,11 @@ export function drawLines(model: Model, ofKind: Kind, shared: SharedUniforms, wi
 }
 
 export function drawPoints(
-    model: Model, ofKind: Kind, shared: SharedUniforms, shape: 'dot' | 'ball' | 'cube', pixels: number,
+    model: Model,
+    ofKind: Kind,
+    shared: SharedUniforms,
+    shape: 'dot' | 'ball' | 'cube',
+    pixels: number,
 ): Object3D[] {
     const symbols = new Symbols(shapes[shape]());
     for (let rank = 0; rank < model.tableOf(ofKind).rows; ++rank) {
@@ -36,7 +45,13 @@ export function drawPoints(
 const kWalls = kind('Parois');
 
 // The direction of the span as an arrow with two heads: 0 along x of the wall, else along y.
-function addSpan(corners: Point[], direction: number, item: number, lines: Segments, heads: Symbols): void {
+function addSpan(
+    corners: Point[],
+    direction: number,
+    item: number,
+    lines: Segments,
+    heads: Symbols,
+): void {
     const frame = frameOfPolygon(corners);
     if (!frame) return;
     const middle = middleOf(corners);
@@ -49,7 +64,10 @@ function addSpan(corners: Point[], direction: number, item: number, lines: Segme
     heads.add(tips[1], { x: scale(axis, -1), y: scale(across, -1), z: frame.z }, 10, item);
 }
 
-export function drawWalls(model: Model, shared: SharedUniforms): { faces: Object3D[]; lines: Object3D[] } {
+export function drawWalls(
+    model: Model,
+    shared: SharedUniforms,
+): { faces: Object3D[]; lines: Object3D[] } {
     const { faces, lines } = drawPolygons(model, kWalls, shared, 0.14);
     const spans = new Segments();
     const heads = new Symbols(shapes.head());
@@ -62,6 +80,10 @@ export function drawWalls(model: Model, shared: SharedUniforms): { faces: Object
     }
     return {
         faces,
-        lines: [...lines, spans.draw(shared, { width: 1.5 }), ...(heads.isEmpty ? [] : [heads.draw(shared, {})])],
+        lines: [
+            ...lines,
+            spans.draw(shared, { width: 1.5 }),
+            ...(heads.isEmpty ? [] : [heads.draw(shared, {})]),
+        ],
     };
 }

@@ -29,7 +29,14 @@ export class Picker {
         const { renderer, camera, shared } = view;
         const { width, height } = view.size;
         view.prepare();
-        camera.setViewOffset(width, height, Math.floor(x) - kReach, Math.floor(y) - kReach, kSize, kSize);
+        camera.setViewOffset(
+            width,
+            height,
+            Math.floor(x) - kReach,
+            Math.floor(y) - kReach,
+            kSize,
+            kSize,
+        );
         const mask = camera.layers.mask;
         camera.layers.disableAll();
         for (const layer of layers) camera.layers.enable(layer);
@@ -55,9 +62,13 @@ export class Picker {
         let best: number | undefined;
         let bestDistance = Infinity;
         for (let i = 0; i < kSize * kSize; ++i) {
-            const [red, green, blue] = this.pixels.subarray(4 * i, 4 * i + 3) as unknown as [number, number, number];
+            const [red, green, blue] = this.pixels.subarray(4 * i, 4 * i + 3) as unknown as [
+                number,
+                number,
+                number,
+            ];
             const number = red + 256 * green + 65536 * blue;
-            const distance = (i % kSize - kReach) ** 2 + (Math.floor(i / kSize) - kReach) ** 2;
+            const distance = ((i % kSize) - kReach) ** 2 + (Math.floor(i / kSize) - kReach) ** 2;
             if (number === 0 || distance >= bestDistance) continue;
             best = number - 1;
             bestDistance = distance;

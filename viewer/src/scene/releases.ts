@@ -20,7 +20,12 @@ const kParts: [bit: number, shape: () => BufferGeometry][] = [
     [8, shapes.sleeve],
 ];
 
-export function drawReleases(model: Model, bars: Bars, shared: SharedUniforms, paint: Rgb): Object3D[] {
+export function drawReleases(
+    model: Model,
+    bars: Bars,
+    shared: SharedUniforms,
+    paint: Rgb,
+): Object3D[] {
     const table = model.tableOf(kBars);
     const released = model.data.table('Attaches').column('Rotules');
     const hinges = new Symbols(shapes.hinge());
@@ -30,7 +35,8 @@ export function drawReleases(model: Model, bars: Bars, shared: SharedUniforms, p
         const place = model.placeOf(model.item(kBars, rank))[end];
         if (!frame || !place) return;
         // Off the end, into the bar.
-        const inwards: Frame = end === 0 ? frame : { x: scale(frame.x, -1), y: scale(frame.y, -1), z: frame.z };
+        const inwards: Frame =
+            end === 0 ? frame : { x: scale(frame.x, -1), y: scale(frame.y, -1), z: frame.z };
         const item = model.firstOf(kBars) + rank;
         if ((bits & kRotations) === kRotations) hinges.add(place, inwards, kPixels, item);
         for (const { bit, symbols } of parts) {

@@ -50,8 +50,11 @@ export class Stage {
 
     // Throws when there is no WebGL.
     constructor(
-        canvas: HTMLCanvasElement, private readonly model: Model, private readonly bars: Bars,
-        private readonly findings: Findings, readonly states: States,
+        canvas: HTMLCanvasElement,
+        private readonly model: Model,
+        private readonly bars: Bars,
+        private readonly findings: Findings,
+        readonly states: States,
     ) {
         this.shared = new SharedUniforms(states.texture);
         this.view = new View(canvas, this.shared, model.box);
@@ -73,19 +76,31 @@ export class Stage {
         this.view.request();
         if (changed.size === 1 && changed.has('hovered')) return;
         const { model, bars, shared } = this;
-        const shows = (table: string): boolean => state.shownKinds.has(table) && model.tableOf(kind(table)).rows > 0;
-        this.draw('bars', shows('Filaires') ? 'yes' : '', () => ({ lines: drawBarAxes(model, shared) }));
+        const shows = (table: string): boolean =>
+            state.shownKinds.has(table) && model.tableOf(kind(table)).rows > 0;
+        this.draw('bars', shows('Filaires') ? 'yes' : '', () => ({
+            lines: drawBarAxes(model, shared),
+        }));
         this.drawProfiles(state);
         const opacity = state.thickness ? 1 : 0.34;
-        this.draw('surfaces', shows('Surfaciques') || shows('Ouvertures') ? `${state.thickness} ${opacity}` : '',
-            () => drawSurfaces(model, shared, { isThick: state.thickness, opacity }));
-        this.draw('supports', ['AppuisPonctuels', 'AppuisLineaires', 'AppuisSurfaciques'].some(shows) ? 'yes' : '',
-            () => drawSupports(model, bars, shared));
-        this.draw('releases', state.releases && shows('Filaires') ? 'yes' : '',
-            () => ({ lines: drawReleases(model, bars, shared, this.colours!.release) }));
+        this.draw(
+            'surfaces',
+            shows('Surfaciques') || shows('Ouvertures') ? `${state.thickness} ${opacity}` : '',
+            () => drawSurfaces(model, shared, { isThick: state.thickness, opacity }),
+        );
+        this.draw(
+            'supports',
+            ['AppuisPonctuels', 'AppuisLineaires', 'AppuisSurfaciques'].some(shows) ? 'yes' : '',
+            () => drawSupports(model, bars, shared),
+        );
+        this.draw('releases', state.releases && shows('Filaires') ? 'yes' : '', () => ({
+            lines: drawReleases(model, bars, shared, this.colours!.release),
+        }));
         this.draw('walls', shows('Parois') ? 'yes' : '', () => drawWalls(model, shared));
         this.drawSimple(shows);
-        this.draw('axes', state.axes ? 'yes' : '', () => ({ lines: drawLocalAxes(model, bars, shared) }));
+        this.draw('axes', state.axes ? 'yes' : '', () => ({
+            lines: drawLocalAxes(model, bars, shared),
+        }));
         this.draw('markers', state.markers ? 'yes' : '', () => ({ lines: this.markers() }));
         this.updateLoads(state);
         this.setClip(state);
@@ -94,11 +109,17 @@ export class Stage {
 
     // Of many bars those near the eye have profiles: called when it has moved.
     drawProfiles(state: Readonly<State>): void {
-        const chosen = new Set(state.selected.map((number) => this.model.itemOf(number))
-            .filter((item) => item?.kind === kBars).map((item) => item!.rank));
+        const chosen = new Set(
+            state.selected
+                .map((number) => this.model.itemOf(number))
+                .filter((item) => item?.kind === kBars)
+                .map((item) => item!.rank),
+        );
         if (state.solids) for (const rank of this.nearBars()) chosen.add(rank);
         const key = [...chosen].sort((a, b) => a - b).join(' ');
-        this.draw('profiles', key, () => ({ lines: drawProfiles(this.bars, this.model, chosen, this.shared) }));
+        this.draw('profiles', key, () => ({
+            lines: drawProfiles(this.bars, this.model, chosen, this.shared),
+        }));
     }
 
     get isOpaque(): boolean {
@@ -109,11 +130,19 @@ export class Stage {
         const { model, shared } = this;
         const lines = { Cables: 2.5, Lines: 1, LinesInterieur: 1.5, SurfacicSections: 1.5 };
         for (const [table, width] of Object.entries(lines)) {
-            this.draw(table, shows(table) ? 'yes' : '', () => ({ lines: drawLines(model, kind(table), shared, width) }));
+            this.draw(table, shows(table) ? 'yes' : '', () => ({
+                lines: drawLines(model, kind(table), shared, width),
+            }));
         }
-        const points = { Nodes: ['dot', 7], Masses: ['ball', 16], Deplacements: ['cube', 12] } as const;
+        const points = {
+            Nodes: ['dot', 7],
+            Masses: ['ball', 16],
+            Deplacements: ['cube', 12],
+        } as const;
         for (const [table, [shape, pixels]] of Object.entries(points)) {
-            this.draw(table, shows(table) ? 'yes' : '', () => ({ lines: drawPoints(model, kind(table), shared, shape, pixels) }));
+            this.draw(table, shows(table) ? 'yes' : '', () => ({
+                lines: drawPoints(model, kind(table), shared, shape, pixels),
+            }));
         }
     }
 
@@ -153,8 +182,11 @@ export class Stage {
         const distances = Float64Array.from(all, (rank) => {
             if (!this.states.isVisible(first + rank)) return Infinity;
             const [a, b] = [starts[rank]!, ends[rank]!];
-            return ((x[a]! + x[b]!) / 2 - centre.x - from.x) ** 2 + ((y[a]! + y[b]!) / 2 - centre.y - from.y) ** 2 +
-                ((z[a]! + z[b]!) / 2 - centre.z - from.z) ** 2;
+            return (
+                ((x[a]! + x[b]!) / 2 - centre.x - from.x) ** 2 +
+                ((y[a]! + y[b]!) / 2 - centre.y - from.y) ** 2 +
+                ((z[a]! + z[b]!) / 2 - centre.z - from.z) ** 2
+            );
         });
         // Not all are sorted: those up to the distance of the last one that is taken.
         const limit = Float64Array.from(distances).sort()[kMostProfiles - 1]!;
@@ -169,7 +201,10 @@ export class Stage {
             if (place.length > 0) lists[severity]!.add(middleOf(place), kGlobal, 13, number);
         }
         return lists.flatMap((list, severity) =>
-            list.isEmpty ? [] : [list.draw(this.shared, { paint: this.colours!.severities[severity]! }, 5)]);
+            list.isEmpty
+                ? []
+                : [list.draw(this.shared, { paint: this.colours!.severities[severity]! }, 5)],
+        );
     }
 
     private setClip({ clip }: Readonly<State>): void {
@@ -177,9 +212,15 @@ export class Stage {
         const at = (part: number, from: number, to: number): number =>
             part <= 0 ? -Infinity : part >= 1 ? Infinity : from + (to - from) * part;
         this.shared.clipLow.value.set(
-            at(clip.low[0], low.x, high.x), at(clip.low[1], low.y, high.y), at(clip.low[2], low.z, high.z));
+            at(clip.low[0], low.x, high.x),
+            at(clip.low[1], low.y, high.y),
+            at(clip.low[2], low.z, high.z),
+        );
         this.shared.clipHigh.value.set(
-            at(clip.high[0], low.x, high.x), at(clip.high[1], low.y, high.y), at(clip.high[2], low.z, high.z));
+            at(clip.high[0], low.x, high.x),
+            at(clip.high[1], low.y, high.y),
+            at(clip.high[2], low.z, high.z),
+        );
     }
 
     // Whether the clipping leaves the point.

@@ -13,7 +13,11 @@ export class States {
         const height = Math.max(1, Math.ceil(itemCount / kStatesWidth));
         this.bytes = new Uint8Array(4 * kStatesWidth * height);
         this.texture = new DataTexture(
-            this.bytes, kStatesWidth, height, RGBAFormat, UnsignedByteType,
+            this.bytes,
+            kStatesWidth,
+            height,
+            RGBAFormat,
+            UnsignedByteType,
         );
         this.texture.minFilter = NearestFilter;
         this.texture.magFilter = NearestFilter;

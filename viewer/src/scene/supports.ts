@@ -4,7 +4,12 @@ import type { Point } from '../data/table';
 import type { Bars } from '../geometry/bars';
 import type { Frame } from '../geometry/frames';
 import {
-    frameOfSupportItem, type Held, kLineSupports, kPointSupports, kSurfaceSupports, supportOf,
+    frameOfSupportItem,
+    type Held,
+    kLineSupports,
+    kPointSupports,
+    kSurfaceSupports,
+    supportOf,
 } from '../geometry/supports';
 import { between, length, middleOf, subtract } from '../geometry/vectors';
 import type { Item, Model } from '../model';
@@ -17,14 +22,24 @@ const kPixels = 17;
 const kMostOnLine = 12;
 
 const kShapes = {
-    block: shapes.block, pyramid: shapes.pyramid, cone: shapes.cone, plate: shapes.plate,
-    spring: shapes.spring, wheel: shapes.wheel, stop: shapes.stop, ring: shapes.ring,
+    block: shapes.block,
+    pyramid: shapes.pyramid,
+    cone: shapes.cone,
+    plate: shapes.plate,
+    spring: shapes.spring,
+    wheel: shapes.wheel,
+    stop: shapes.stop,
+    ring: shapes.ring,
 } satisfies Record<string, () => BufferGeometry>;
 type Shape = keyof typeof kShapes;
 
 // The frame with that axis as its x.
 function along({ x, y, z }: Frame, axis: number): Frame {
-    return [{ x, y, z }, { x: y, y: z, z: x }, { x: z, y: x, z: y }][axis]!;
+    return [
+        { x, y, z },
+        { x: y, y: z, z: x },
+        { x: z, y: x, z: y },
+    ][axis]!;
 }
 
 // The symbols of a support: one for all where there is a usual one, else one for each direction.
@@ -36,10 +51,17 @@ export function partsOf({ condition, directions }: Held): [Shape, axis: number][
         if (condition === 'rigid' && turns === 3) return [['block', 0]];
         if (condition === 'rigid' && turns === 0) return [['pyramid', 0]];
         // One for three directions: below, like the others.
-        if (condition === 'elastic') return turns > 0 ? [['spring', 2], ['wheel', 2]] : [['spring', 2]];
+        if (condition === 'elastic')
+            return turns > 0
+                ? [
+                      ['spring', 2],
+                      ['wheel', 2],
+                  ]
+                : [['spring', 2]];
         if (condition === 'stop' && turns === 0) return [['stop', 2]];
     }
-    const ofTranslation = condition === 'elastic' ? 'spring' : condition === 'stop' ? 'stop' : 'cone';
+    const ofTranslation =
+        condition === 'elastic' ? 'spring' : condition === 'stop' ? 'stop' : 'cone';
     const ofRotation = condition === 'elastic' ? 'wheel' : 'plate';
     const parts: [Shape, number][] = [];
     directions.forEach((isHeld, i) => {
@@ -49,7 +71,9 @@ export function partsOf({ condition, directions }: Held): [Shape, axis: number][
 }
 
 export function drawSupports(
-    model: Model, bars: Bars, shared: SharedUniforms,
+    model: Model,
+    bars: Bars,
+    shared: SharedUniforms,
 ): { faces: Object3D[]; lines: Object3D[] } {
     const symbols = new Map<Shape, Symbols>();
     const add = (item: Item, at: Point, size: number): void => {
@@ -73,7 +97,10 @@ export function drawSupports(
         const [start, end] = model.placeOf(item);
         if (!start || !end) continue;
         lines.add(start, end, item.number);
-        const count = Math.min(kMostOnLine, Math.max(2, Math.round(length(subtract(end, start)) / step)));
+        const count = Math.min(
+            kMostOnLine,
+            Math.max(2, Math.round(length(subtract(end, start)) / step)),
+        );
         for (let i = 0; i <= count; ++i) add(item, between(start, end, i / count), 0.7 * kPixels);
     }
     for (let rank = 0; rank < model.tableOf(kSurfaceSupports).rows; ++rank) {
@@ -82,7 +109,8 @@ export function drawSupports(
         if (corners.length < 3) continue;
         const middle = middleOf(corners);
         add(item, middle, 0.7 * kPixels);
-        for (const corner of corners.slice(0, 32)) add(item, between(corner, middle, 0.08), 0.7 * kPixels);
+        for (const corner of corners.slice(0, 32))
+            add(item, between(corner, middle, 0.08), 0.7 * kPixels);
     }
     const polygons = drawPolygons(model, kSurfaceSupports, shared, 0.25);
     return {
@@ -94,4 +122,3 @@ export function drawSupports(
         ],
     };
 }
-

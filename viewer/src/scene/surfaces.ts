@@ -32,13 +32,22 @@ function addEdges(outline: Point[], item: number, edges: Segments): void {
 function addFlat(outline: Point[], openings: Point[][], item: number, faces: Faces): void {
     const { points, corners } = trianglesOf(outline, openings);
     for (let i = 0; i + 2 < corners.length; i += 3) {
-        faces.triangle(points[corners[i]!]!, points[corners[i + 1]!]!, points[corners[i + 2]!]!, item);
+        faces.triangle(
+            points[corners[i]!]!,
+            points[corners[i + 1]!]!,
+            points[corners[i + 2]!]!,
+            item,
+        );
     }
 }
 
 // Half of the thickness on each side.
 function addThick(
-    outline: Point[], openings: Point[][], thickness: number, item: number, faces: Faces,
+    outline: Point[],
+    openings: Point[][],
+    thickness: number,
+    item: number,
+    faces: Faces,
 ): void {
     const frame = frameOfPolygon(outline);
     if (!frame) return;
@@ -62,7 +71,9 @@ export interface SurfaceLook {
 }
 
 export function drawSurfaces(
-    model: Model, shared: SharedUniforms, look: SurfaceLook,
+    model: Model,
+    shared: SharedUniforms,
+    look: SurfaceLook,
 ): { faces: Object3D[]; lines: Object3D[] } {
     const table = model.tableOf(kSurfaces);
     const openings = openingsBySurface(model);
@@ -91,7 +102,10 @@ export function drawSurfaces(
 
 // Polygons that are only marked: walls, surface supports.
 export function drawPolygons(
-    model: Model, ofKind: Kind, shared: SharedUniforms, opacity: number,
+    model: Model,
+    ofKind: Kind,
+    shared: SharedUniforms,
+    opacity: number,
 ): { faces: Object3D[]; lines: Object3D[] } {
     const faces = new Faces();
     const edges = new Segments();

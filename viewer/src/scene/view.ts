@@ -1,7 +1,15 @@
 // The picture: renderer, cameras, controls. Draws when something changed, not all the time.
 import {
-    Box3, Color, type Camera, Group, type Object3D, OrthographicCamera, PerspectiveCamera, Scene,
-    SRGBColorSpace, Vector3,
+    Box3,
+    Color,
+    type Camera,
+    Group,
+    type Object3D,
+    OrthographicCamera,
+    PerspectiveCamera,
+    Scene,
+    SRGBColorSpace,
+    Vector3,
     WebGLRenderer,
 } from 'three';
 import { OrbitControls } from 'three/examples/jsm/controls/OrbitControls.js';
@@ -57,16 +65,25 @@ export class View {
     private readonly corners: Vector3[];
 
     // Throws when there is no WebGL.
-    constructor(readonly canvas: HTMLCanvasElement, readonly shared: SharedUniforms, box: Box) {
+    constructor(
+        readonly canvas: HTMLCanvasElement,
+        readonly shared: SharedUniforms,
+        box: Box,
+    ) {
         this.renderer = new WebGLRenderer({
-            canvas, antialias: true, alpha: false, powerPreference: 'high-performance',
+            canvas,
+            antialias: true,
+            alpha: false,
+            powerPreference: 'high-performance',
             preserveDrawingBuffer: false,
         });
         canvas.addEventListener('webglcontextlost', () => this.onLost());
         this.renderer.autoClear = true;
         const { low, high } = box;
         this.middle = new Vector3((low.x + high.x) / 2, (low.y + high.y) / 2, (low.z + high.z) / 2);
-        this.corners = cornersOf(new Box3(new Vector3(low.x, low.y, low.z), new Vector3(high.x, high.y, high.z)));
+        this.corners = cornersOf(
+            new Box3(new Vector3(low.x, low.y, low.z), new Vector3(high.x, high.y, high.z)),
+        );
         const diagonal = new Vector3(high.x - low.x, high.y - low.y, high.z - low.z);
         this.radius = Math.max(diagonal.length() / 2, 1e-6);
         for (const camera of [this.perspective, this.orthographic]) {
@@ -98,7 +115,10 @@ export class View {
 
     setBackground([red, green, blue]: Rgb): void {
         this.shared.background.value.set(red / 255, green / 255, blue / 255);
-        this.renderer.setClearColor(new Color().setRGB(red / 255, green / 255, blue / 255, SRGBColorSpace), 1);
+        this.renderer.setClearColor(
+            new Color().setRGB(red / 255, green / 255, blue / 255, SRGBColorSpace),
+            1,
+        );
         this.request();
     }
 
@@ -222,7 +242,10 @@ export class View {
     private centreOn(points: Vector3[], target: Vector3): number {
         const slope = Math.tan(kHalfField);
         const [wide, high] = [this.width - this.covered.right, this.height - this.covered.top];
-        const [slopeX, slopeY] = [(slope * wide * kFilled) / this.height, (slope * high * kFilled) / this.height];
+        const [slopeX, slopeY] = [
+            (slope * wide * kFilled) / this.height,
+            (slope * high * kFilled) / this.height,
+        ];
         const { matrixWorld, matrixWorldInverse } = this.camera;
         const distance = this.camera.position.distanceTo(target);
         const seen = new Box3();
@@ -230,9 +253,17 @@ export class View {
         for (const point of points) {
             const at = point.clone().applyMatrix4(matrixWorldInverse);
             const depth = Math.max(-at.z, 1e-3 * distance);
-            seen.expandByPoint(new Vector3(at.x / depth, at.y / depth, 0).multiplyScalar(this.isOrthographic ? depth : distance));
+            seen.expandByPoint(
+                new Vector3(at.x / depth, at.y / depth, 0).multiplyScalar(
+                    this.isOrthographic ? depth : distance,
+                ),
+            );
             const beyond = distance - depth; // nearer than the target
-            needed = Math.max(needed, beyond + Math.abs(at.x) / slopeX, beyond + Math.abs(at.y) / slopeY);
+            needed = Math.max(
+                needed,
+                beyond + Math.abs(at.x) / slopeX,
+                beyond + Math.abs(at.y) / slopeY,
+            );
         }
         const middle = seen.getCenter(new Vector3());
         target.addScaledVector(new Vector3().setFromMatrixColumn(matrixWorld, 0), middle.x);
@@ -282,8 +313,14 @@ export class View {
     }
     shift(right: number, up: number): void {
         const distance = this.camera.position.distanceTo(this.controls.target);
-        const height = 2 * (this.isOrthographic ? this.radius / this.orthographic.zoom : this.halfHeightAt(distance));
-        const move = new Vector3().setFromMatrixColumn(this.camera.matrix, 0).multiplyScalar(right * height);
+        const height =
+            2 *
+            (this.isOrthographic
+                ? this.radius / this.orthographic.zoom
+                : this.halfHeightAt(distance));
+        const move = new Vector3()
+            .setFromMatrixColumn(this.camera.matrix, 0)
+            .multiplyScalar(right * height);
         move.addScaledVector(new Vector3().setFromMatrixColumn(this.camera.matrix, 1), up * height);
         this.camera.position.add(move);
         this.controls.target.add(move);
@@ -322,7 +359,10 @@ export class View {
             this.shared.pixel.value = (2 * this.radius) / this.orthographic.zoom / this.height;
         } else {
             this.perspective.far = distance + 3 * this.radius;
-            this.perspective.near = Math.max((distance - 2 * this.radius) / 2, this.perspective.far / 5e4);
+            this.perspective.near = Math.max(
+                (distance - 2 * this.radius) / 2,
+                this.perspective.far / 5e4,
+            );
             this.shared.pixel.value = (2 * Math.tan(kHalfField)) / this.height;
         }
         this.camera.updateProjectionMatrix();
@@ -349,5 +389,7 @@ export class View {
 const kHalfField = (kFieldOfView * Math.PI) / 360;
 
 function cornersOf({ min, max }: Box3): Vector3[] {
-    return [min.x, max.x].flatMap((x) => [min.y, max.y].flatMap((y) => [min.z, max.z].map((z) => new Vector3(x, y, z))));
+    return [min.x, max.x].flatMap((x) =>
+        [min.y, max.y].flatMap((y) => [min.z, max.z].map((z) => new Vector3(x, y, z))),
+    );
 }

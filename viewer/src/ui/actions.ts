@@ -31,13 +31,22 @@ export function makeActions(context: Context, overlay: () => Overlay | undefined
             });
             stage?.view.fit(points.length > 0 ? points : undefined);
         },
-        hide: () => store.change({
-            hiddenItems: new Set([...store.state.hiddenItems, ...store.state.selected]), selected: [],
-        }),
+        hide: () =>
+            store.change({
+                hiddenItems: new Set([...store.state.hiddenItems, ...store.state.selected]),
+                selected: [],
+            }),
         isolate: () => {
-            if (store.state.selected.length > 0) store.change({ isolated: new Set(store.state.selected) });
+            if (store.state.selected.length > 0)
+                store.change({ isolated: new Set(store.state.selected) });
         },
-        showAll: () => store.change({ hiddenItems: new Set(), isolated: undefined, hidden: new Set(), clip: kWhole }),
+        showAll: () =>
+            store.change({
+                hiddenItems: new Set(),
+                isolated: undefined,
+                hidden: new Set(),
+                clip: kWhole,
+            }),
         picture: () => {
             if (!stage) return;
             const { canvas } = stage.view;

@@ -15,9 +15,16 @@ export function makeClip(context: Context, element: HTMLElement): void {
         const id = newId();
         const name = kAxes[axis];
         const input = h('input', {
-            type: 'range', id, min: 0, max: kSteps, step: 1,
+            type: 'range',
+            id,
+            min: 0,
+            max: kSteps,
+            step: 1,
             input: () => {
-                const clip: Clip = { low: [...store.state.clip.low], high: [...store.state.clip.high] };
+                const clip: Clip = {
+                    low: [...store.state.clip.low],
+                    high: [...store.state.clip.high],
+                };
                 const part = Number(input.value) / kSteps;
                 clip[end][axis] = part;
                 if (end === 'low') clip.high[axis] = Math.max(clip.high[axis]!, part);
@@ -32,10 +39,18 @@ export function makeClip(context: Context, element: HTMLElement): void {
             const at = low[name] + (high[name] - low[name]) * part + model.centre[name];
             value.textContent = `${numberText(at, 5)} m`;
         });
-        return h('div', { class: 'row' }, h('label', { for: id }, `${name} ${end === 'low' ? texts.low : texts.high}`), input, value);
+        return h(
+            'div',
+            { class: 'row' },
+            h('label', { for: id }, `${name} ${end === 'low' ? texts.low : texts.high}`),
+            input,
+            value,
+        );
     };
-    fill(element,
+    fill(
+        element,
         ...([0, 1, 2] as const).flatMap((axis) => [slider(axis, 'low'), slider(axis, 'high')]),
-        button(texts.wholeModel, () => store.change({ clip: kWhole })));
+        button(texts.wholeModel, () => store.change({ clip: kWhole })),
+    );
     store.on(['clip'], () => outputs.forEach((show) => show()));
 }

@@ -4,13 +4,20 @@ type Child = Node | string | number | undefined | false | null;
 type Attributes = Record<string, string | number | boolean | undefined | ((event: never) => void)>;
 
 export function h<Tag extends keyof HTMLElementTagNameMap>(
-    tag: Tag, attributes: Attributes = {}, ...children: Child[]
+    tag: Tag,
+    attributes: Attributes = {},
+    ...children: Child[]
 ): HTMLElementTagNameMap[Tag] {
     const element = document.createElement(tag);
     for (const [name, value] of Object.entries(attributes)) {
         if (value === undefined || value === false) continue;
         if (typeof value === 'function') element.addEventListener(name, value as EventListener);
-        else if (name === 'checked' || name === 'disabled' || name === 'open' || name === 'hidden') {
+        else if (
+            name === 'checked' ||
+            name === 'disabled' ||
+            name === 'open' ||
+            name === 'hidden'
+        ) {
             (element as unknown as Record<string, boolean>)[name] = Boolean(value);
         } else element.setAttribute(name, value === true ? '' : String(value));
     }
@@ -41,16 +48,26 @@ export function fill(element: HTMLElement, ...children: Child[]): void {
 let identifiers = 0;
 export const newId = (): string => `i${++identifiers}`;
 
-export function button(text: string, click: () => void, attributes: Attributes = {}): HTMLButtonElement {
+export function button(
+    text: string,
+    click: () => void,
+    attributes: Attributes = {},
+): HTMLButtonElement {
     return h('button', { type: 'button', click, ...attributes }, text);
 }
 
 // `sign` is between the box and the text, `more` after it.
 export function checkbox(
-    text: string, checked: boolean, change: (checked: boolean) => void, sign?: Child, ...more: Child[]
+    text: string,
+    checked: boolean,
+    change: (checked: boolean) => void,
+    sign?: Child,
+    ...more: Child[]
 ): HTMLLabelElement {
     const box = h('input', {
-        type: 'checkbox', checked, change: (event: Event) => change((event.target as HTMLInputElement).checked),
+        type: 'checkbox',
+        checked,
+        change: (event: Event) => change((event.target as HTMLInputElement).checked),
     });
     return h('label', { class: 'check' }, box, sign, h('span', { class: 'grow' }, text), ...more);
 }

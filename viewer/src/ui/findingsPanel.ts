@@ -7,7 +7,10 @@ const kStep = 100;
 
 export function makeFindingsPanel(context: Context, element: HTMLElement): void {
     const { findings, texts } = context;
-    const counts = ([2, 1, 0] as Severity[]).map((severity) => ({ severity, count: findings.count(severity) }));
+    const counts = ([2, 1, 0] as Severity[]).map((severity) => ({
+        severity,
+        count: findings.count(severity),
+    }));
     if (counts.every(({ count }) => count === 0)) {
         element.append(h('p', { class: 'quiet' }, texts.noFindings));
         return;
@@ -15,7 +18,13 @@ export function makeFindingsPanel(context: Context, element: HTMLElement): void 
     let chosen: Severity | undefined;
     let shown = kStep;
     const words = (severity: Severity, count: number): string => {
-        const [one, many] = ([[texts.note, texts.notes], [texts.warning, texts.warnings], [texts.error, texts.errors]] as const)[severity];
+        const [one, many] = (
+            [
+                [texts.note, texts.notes],
+                [texts.warning, texts.warnings],
+                [texts.error, texts.errors],
+            ] as const
+        )[severity];
         return count === 1 ? one.toLowerCase() : many;
     };
     const list = h('ul', { class: 'findings' });
@@ -27,24 +36,62 @@ export function makeFindingsPanel(context: Context, element: HTMLElement): void 
         show();
     };
     const show = (): void => {
-        fill(filters,
-            button(texts.all, () => choose(undefined), { class: 'chip', 'aria-pressed': String(chosen === undefined) }),
-            ...counts.filter(({ count }) => count > 0).map(({ severity, count }) =>
-                button(`${count} ${words(severity, count)}`, () => choose(severity), {
-                    class: `chip severity-${severity}`, 'aria-pressed': String(chosen === severity),
-                })));
-        const all = findings.all.filter(({ severity }) => chosen === undefined || severity === chosen);
-        fill(list, ...all.slice(0, shown).map((finding) => {
-            const text = h('span', {}, textOf(finding, context.language));
-            const about = h('span', { class: 'quiet' }, [finding.code, finding.line > 0 ? `${texts.line} ${finding.line}` : ''].join(' · '));
-            const { item } = finding;
-            return h('li', { class: `severity-${finding.severity}` }, item
-                ? h('button', { type: 'button', click: () => context.goTo(item) }, text, about)
-                : h('div', {}, text, about));
-        }));
-        fill(rest,
-            all.length > shown ? button(`${texts.more} (${all.length - shown})`, () => { shown += kStep; show(); }) : undefined,
-            ...findings.notListed.map(({ code, count }) => h('p', { class: 'quiet' }, `${code}: ${count} ${texts.notListed}`)));
+        fill(
+            filters,
+            button(texts.all, () => choose(undefined), {
+                class: 'chip',
+                'aria-pressed': String(chosen === undefined),
+            }),
+            ...counts
+                .filter(({ count }) => count > 0)
+                .map(({ severity, count }) =>
+                    button(`${count} ${words(severity, count)}`, () => choose(severity), {
+                        class: `chip severity-${severity}`,
+                        'aria-pressed': String(chosen === severity),
+                    }),
+                ),
+        );
+        const all = findings.all.filter(
+            ({ severity }) => chosen === undefined || severity === chosen,
+        );
+        fill(
+            list,
+            ...all.slice(0, shown).map((finding) => {
+                const text = h('span', {}, textOf(finding, context.language));
+                const about = h(
+                    'span',
+                    { class: 'quiet' },
+                    [finding.code, finding.line > 0 ? `${texts.line} ${finding.line}` : ''].join(
+                        ' · ',
+                    ),
+                );
+                const { item } = finding;
+                return h(
+                    'li',
+                    { class: `severity-${finding.severity}` },
+                    item
+                        ? h(
+                              'button',
+                              { type: 'button', click: () => context.goTo(item) },
+                              text,
+                              about,
+                          )
+                        : h('div', {}, text, about),
+                );
+            }),
+        );
+        fill(
+            rest,
+            all.length > shown
+                ? button(`${texts.more} (${all.length - shown})`, () => {
+                      shown += kStep;
+                      show();
+                  })
+                : undefined,
+            ...findings.notListed.map(({ code, count }) =>
+                h('p', { class: 'quiet' }, `${code}: ${count} ${texts.notListed}`),
+            ),
+        );
     };
     element.append(filters, list, rest);
     show();

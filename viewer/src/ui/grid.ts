@@ -25,7 +25,11 @@ export class Grid {
     private chosen = new Set<number>();
     private readonly body = h('div', { class: 'rows' });
     private readonly tall = h('div', { class: 'tall' });
-    private readonly head = h('div', { role: 'row', class: 'grid-row grid-head', 'aria-rowindex': '1' });
+    private readonly head = h('div', {
+        role: 'row',
+        class: 'grid-row grid-head',
+        'aria-rowindex': '1',
+    });
     private readonly scroller: HTMLElement;
     private readonly identifier = newId();
     private readonly numeric: Set<Column>;
@@ -33,14 +37,30 @@ export class Grid {
     constructor(private readonly options: GridOptions) {
         const { table, columns } = options;
         this.order = Int32Array.from({ length: table.rows }, (_, row) => row);
-        this.numeric = new Set(columns.filter((column) =>
-            !column.isList && !column.refersTo && (column.type === 'int' || column.type === 'real')));
+        this.numeric = new Set(
+            columns.filter(
+                (column) =>
+                    !column.isList &&
+                    !column.refersTo &&
+                    (column.type === 'int' || column.type === 'real'),
+            ),
+        );
         const widths = this.widths();
-        this.scroller = h('div', {
-            class: 'grid', role: 'grid', tabindex: '0', 'aria-label': options.label,
-            'aria-rowcount': table.rows + 1, 'aria-colcount': columns.length,
-            scroll: () => this.show(), keydown: (event: KeyboardEvent) => this.onKey(event),
-        }, this.head, this.tall);
+        this.scroller = h(
+            'div',
+            {
+                class: 'grid',
+                role: 'grid',
+                tabindex: '0',
+                'aria-label': options.label,
+                'aria-rowcount': table.rows + 1,
+                'aria-colcount': columns.length,
+                scroll: () => this.show(),
+                keydown: (event: KeyboardEvent) => this.onKey(event),
+            },
+            this.head,
+            this.tall,
+        );
         this.scroller.style.setProperty('--columns', widths.map((width) => `${width}ch`).join(' '));
         this.tall.append(this.body);
         this.tall.setAttribute('role', 'presentation');
@@ -74,7 +94,8 @@ export class Grid {
             const top = place * this.step;
             const { scrollTop, clientHeight } = this.scroller;
             if (top < scrollTop) this.scroller.scrollTop = top;
-            else if (top + 2 * kRow > scrollTop + clientHeight) this.scroller.scrollTop = top + 2 * kRow - clientHeight;
+            else if (top + 2 * kRow > scrollTop + clientHeight)
+                this.scroller.scrollTop = top + 2 * kRow - clientHeight;
         }
         this.show();
     }
@@ -89,29 +110,58 @@ export class Grid {
         return columns.map((column) => {
             let width = this.options.nameOf(column).length + 4;
             for (let row = 0; row < Math.min(table.rows, 40); ++row) {
-                width = Math.max(width, Math.min(kWidestText, this.options.cellText(column, row).length + 2));
+                width = Math.max(
+                    width,
+                    Math.min(kWidestText, this.options.cellText(column, row).length + 2),
+                );
             }
             return width;
         });
     }
 
     private makeHead(): void {
-        this.head.replaceChildren(...this.options.columns.map((column, i) => {
-            const isSorted = this.sorted?.column === column;
-            const order = !isSorted ? 'none' : this.sorted!.isDescending ? 'descending' : 'ascending';
-            return h('div', { role: 'columnheader', title: column.name, 'aria-sort': order, 'aria-colindex': i + 1,
-                class: this.numeric.has(column) ? 'number' : undefined },
-                h('button', { type: 'button', class: 'sort', click: () => this.sortBy(column) },
-                    this.options.nameOf(column), h('span', { 'aria-hidden': 'true' }, order === 'none' ? '' : order === 'ascending' ? ' ▲' : ' ▼')));
-        }));
+        this.head.replaceChildren(
+            ...this.options.columns.map((column, i) => {
+                const isSorted = this.sorted?.column === column;
+                const order = !isSorted
+                    ? 'none'
+                    : this.sorted!.isDescending
+                      ? 'descending'
+                      : 'ascending';
+                return h(
+                    'div',
+                    {
+                        role: 'columnheader',
+                        title: column.name,
+                        'aria-sort': order,
+                        'aria-colindex': i + 1,
+                        class: this.numeric.has(column) ? 'number' : undefined,
+                    },
+                    h(
+                        'button',
+                        { type: 'button', class: 'sort', click: () => this.sortBy(column) },
+                        this.options.nameOf(column),
+                        h(
+                            'span',
+                            { 'aria-hidden': 'true' },
+                            order === 'none' ? '' : order === 'ascending' ? ' ▲' : ' ▼',
+                        ),
+                    ),
+                );
+            }),
+        );
     }
 
     private sortBy(column: Column): void {
         const isSame = this.sorted?.column === column;
-        this.sorted = isSame && this.sorted!.isDescending ? undefined : { column, isDescending: isSame };
-        const focused = document.activeElement?.closest('[role=columnheader]')?.getAttribute('aria-colindex');
+        this.sorted =
+            isSame && this.sorted!.isDescending ? undefined : { column, isDescending: isSame };
+        const focused = document.activeElement
+            ?.closest('[role=columnheader]')
+            ?.getAttribute('aria-colindex');
         this.makeHead();
-        if (focused) this.head.querySelector<HTMLElement>(`[aria-colindex="${focused}"] button`)?.focus();
+        if (focused)
+            this.head.querySelector<HTMLElement>(`[aria-colindex="${focused}"] button`)?.focus();
         this.arrange();
     }
 
@@ -141,7 +191,8 @@ export class Grid {
 
     private holds(row: number): boolean {
         return this.options.columns.some((column) =>
-            this.options.cellText(column, row).toLowerCase().includes(this.filter));
+            this.options.cellText(column, row).toLowerCase().includes(this.filter),
+        );
     }
 
     private show(): void {
@@ -149,10 +200,15 @@ export class Grid {
         const { step } = this;
         this.tall.style.height = `${Math.ceil(count * step)}px`;
         const { scrollTop, clientHeight } = this.scroller;
-        const first = Math.max(0, Math.min(Math.floor(scrollTop / step), count - Math.floor(clientHeight / kRow) + 1));
+        const first = Math.max(
+            0,
+            Math.min(Math.floor(scrollTop / step), count - Math.floor(clientHeight / kRow) + 1),
+        );
         const rows = Math.min(count - first, Math.ceil(clientHeight / kRow) + 1);
         this.body.style.transform = `translateY(${step < kRow ? scrollTop : first * kRow}px)`;
-        this.body.replaceChildren(...Array.from({ length: Math.max(0, rows) }, (_, i) => this.makeRow(first + i)));
+        this.body.replaceChildren(
+            ...Array.from({ length: Math.max(0, rows) }, (_, i) => this.makeRow(first + i)),
+        );
         const active = this.body.querySelector('.current');
         if (active) this.scroller.setAttribute('aria-activedescendant', active.id);
         else this.scroller.removeAttribute('aria-activedescendant');
@@ -162,13 +218,29 @@ export class Grid {
         const row = this.order[place]!;
         const isChosen = this.chosen.has(row);
         const classes = `grid-row${isChosen ? ' chosen' : ''}${row === this.current ? ' current' : ''}`;
-        return h('div', {
-            role: 'row', id: `${this.identifier}-${row}`, class: classes, 'aria-rowindex': place + 2,
-            'aria-selected': String(isChosen),
-            click: () => this.options.choose(row, false), dblclick: () => this.options.choose(row, true),
-        }, ...this.options.columns.map((column, i) =>
-            h('div', { role: 'gridcell', 'aria-colindex': i + 1, class: this.numeric.has(column) ? 'number' : undefined },
-                this.options.cellText(column, row))));
+        return h(
+            'div',
+            {
+                role: 'row',
+                id: `${this.identifier}-${row}`,
+                class: classes,
+                'aria-rowindex': place + 2,
+                'aria-selected': String(isChosen),
+                click: () => this.options.choose(row, false),
+                dblclick: () => this.options.choose(row, true),
+            },
+            ...this.options.columns.map((column, i) =>
+                h(
+                    'div',
+                    {
+                        role: 'gridcell',
+                        'aria-colindex': i + 1,
+                        class: this.numeric.has(column) ? 'number' : undefined,
+                    },
+                    this.options.cellText(column, row),
+                ),
+            ),
+        );
     }
 
     private onKey(event: KeyboardEvent): void {
@@ -177,8 +249,12 @@ export class Grid {
         const page = Math.max(1, Math.floor(this.scroller.clientHeight / kRow) - 2);
         const last = this.order.length - 1;
         const moves: Record<string, number> = {
-            ArrowDown: Math.min(last, place + 1), ArrowUp: Math.max(0, place - 1), PageDown: Math.min(last, place + page),
-            PageUp: Math.max(0, place - page), Home: 0, End: last,
+            ArrowDown: Math.min(last, place + 1),
+            ArrowUp: Math.max(0, place - 1),
+            PageDown: Math.min(last, place + page),
+            PageUp: Math.max(0, place - page),
+            Home: 0,
+            End: last,
         };
         const next = moves[event.key];
         if (next !== undefined && last >= 0) {

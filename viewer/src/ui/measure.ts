@@ -22,14 +22,20 @@ function snapped(context: Context, item: Item, x: number, y: number): Point | un
     };
     const best = candidates.reduce((a, b) => (distanceTo(b) < distanceTo(a) ? b : a));
     if (distanceTo(best) <= kSnap) return best;
-    const feet = edges.flatMap(([a, b]) => Array.from({ length: 65 }, (_, i) => between(a, b, i / 64)));
+    const feet = edges.flatMap(([a, b]) =>
+        Array.from({ length: 65 }, (_, i) => between(a, b, i / 64)),
+    );
     return feet.reduce((a, b) => (distanceTo(b) < distanceTo(a) ? b : a), best);
 }
 
 export class Measure {
     private points: Point[] = [];
 
-    constructor(private readonly context: Context, private readonly overlay: Overlay | undefined, private readonly element: HTMLElement) {
+    constructor(
+        private readonly context: Context,
+        private readonly overlay: Overlay | undefined,
+        private readonly element: HTMLElement,
+    ) {
         const { store } = context;
         store.on(['tool'], () => {
             this.points = [];
@@ -37,7 +43,8 @@ export class Measure {
         });
         store.on(['selected'], () => {
             const item = context.model.itemOf(store.state.selected[0] ?? -1);
-            if (store.state.tool === 'measure' && item && !this.isClicking) this.add(middleOf(context.model.placeOf(item)));
+            if (store.state.tool === 'measure' && item && !this.isClicking)
+                this.add(middleOf(context.model.placeOf(item)));
         });
     }
     private isClicking = false;
@@ -62,10 +69,17 @@ export class Measure {
         if (this.overlay) this.overlay.measured = this.points;
         stage?.view.request();
         if (this.element.hidden) return;
-        fill(this.element,
-            h('p', { role: 'status' }, ...(this.points.length === 2 ? resultOf(model, texts.distance, this.points) : [
-                this.points.length === 1 ? texts.measureNext : texts.measureHelp])),
-            button(texts.close, () => store.change({ tool: 'select' })));
+        fill(
+            this.element,
+            h(
+                'p',
+                { role: 'status' },
+                ...(this.points.length === 2
+                    ? resultOf(model, texts.distance, this.points)
+                    : [this.points.length === 1 ? texts.measureNext : texts.measureHelp]),
+            ),
+            button(texts.close, () => store.change({ tool: 'select' })),
+        );
     }
 }
 
@@ -78,9 +92,12 @@ function resultOf(model: Model, name: string, [a, b]: Point[]): HTMLElement[] {
     };
     return [
         h('strong', {}, `${name} ${text(length(between))} m`),
-        h('span', { class: 'quiet' }, ` Δx ${text(between.x)} · Δy ${text(between.y)} · Δz ${text(between.z)}`),
+        h(
+            'span',
+            { class: 'quiet' },
+            ` Δx ${text(between.x)} · Δy ${text(between.y)} · Δz ${text(between.z)}`,
+        ),
         h('br'),
         h('span', { class: 'quiet' }, `${place(a!)} → ${place(b!)}`),
     ];
 }
-

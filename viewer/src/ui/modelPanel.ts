@@ -24,15 +24,19 @@ export function makeModelPanel(context: Context, element: HTMLElement): void {
     const levels = h('div');
     const display = h('div');
     element.append(
-        colourChoice(context), legend,
+        colourChoice(context),
+        legend,
         section(texts.kinds, true, kinds),
         section(texts.display, true, display),
-        ...(context.levels.heights.length > 1 ? [section(texts.levels, false, levels)] : []));
+        ...(context.levels.heights.length > 1 ? [section(texts.levels, false, levels)] : []),
+    );
     const { store } = context;
     store.on(['colourBy', 'hidden', 'theme'], () => listLegend(context, legend));
     store.on(['shownKinds', 'colourBy'], () => listKinds(context, kinds));
     store.on(['hidden'], () => listLevels(context, levels));
-    store.on(['solids', 'thickness', 'releases', 'axes', 'labels', 'markers'], () => listDisplay(context, display));
+    store.on(['solids', 'thickness', 'releases', 'axes', 'labels', 'markers'], () =>
+        listDisplay(context, display),
+    );
 }
 
 function section(title: string, isOpen: boolean, content: HTMLElement): HTMLElement {
@@ -42,11 +46,22 @@ function section(title: string, isOpen: boolean, content: HTMLElement): HTMLElem
 function colourChoice({ store, texts }: Context): HTMLElement {
     const id = newId();
     const names: Record<ColourBy, keyof Texts> = {
-        kind: 'byKind', group: 'byGroup', material: 'byMaterial', section: 'bySection', type: 'byType', finding: 'byFinding',
+        kind: 'byKind',
+        group: 'byGroup',
+        material: 'byMaterial',
+        section: 'bySection',
+        type: 'byType',
+        finding: 'byFinding',
     };
-    const select = h('select', {
-        id, change: (event: Event) => store.change({ colourBy: (event.target as HTMLSelectElement).value as ColourBy }),
-    }, ...kColourBy.map((by) => h('option', { value: by }, String(texts[names[by]]))));
+    const select = h(
+        'select',
+        {
+            id,
+            change: (event: Event) =>
+                store.change({ colourBy: (event.target as HTMLSelectElement).value as ColourBy }),
+        },
+        ...kColourBy.map((by) => h('option', { value: by }, String(texts[names[by]]))),
+    );
     store.on(['colourBy'], () => (select.value = store.state.colourBy));
     return h('div', { class: 'row' }, h('label', { for: id }, texts.colourBy), select);
 }
@@ -61,39 +76,99 @@ function listLegend(context: Context, element: HTMLElement): void {
     }
     const entry = (category: Category): HTMLElement => {
         const isShown = !store.state.hidden.has(category.key);
-        const only = button(texts.only, () => {
-            const others = categories.filter((other) => other.key !== category.key).map((other) => other.key);
-            const rest = [...store.state.hidden].filter((key) => !categories.some((other) => other.key === key));
-            store.change({ hidden: new Set([...rest, ...others]) });
-        }, { class: 'link only', 'aria-label': `${texts.onlyThis} ${category.name}` });
-        return h('li', {}, checkbox(category.name,
-            isShown, (shows) => store.change({ hidden: changed(store.state.hidden, category.key, !shows) }),
-            swatch(category.colour), h('span', { class: 'count' }, category.count)), only);
+        const only = button(
+            texts.only,
+            () => {
+                const others = categories
+                    .filter((other) => other.key !== category.key)
+                    .map((other) => other.key);
+                const rest = [...store.state.hidden].filter(
+                    (key) => !categories.some((other) => other.key === key),
+                );
+                store.change({ hidden: new Set([...rest, ...others]) });
+            },
+            { class: 'link only', 'aria-label': `${texts.onlyThis} ${category.name}` },
+        );
+        return h(
+            'li',
+            {},
+            checkbox(
+                category.name,
+                isShown,
+                (shows) =>
+                    store.change({ hidden: changed(store.state.hidden, category.key, !shows) }),
+                swatch(category.colour),
+                h('span', { class: 'count' }, category.count),
+            ),
+            only,
+        );
     };
-    fill(element, h('ul', { class: 'list', 'aria-label': texts.legend }, ...categories.slice(0, kMostListed).map(entry)),
-        categories.length > kMostListed ? h('p', { class: 'quiet' }, `… ${categories.length}`) : undefined);
+    fill(
+        element,
+        h(
+            'ul',
+            { class: 'list', 'aria-label': texts.legend },
+            ...categories.slice(0, kMostListed).map(entry),
+        ),
+        categories.length > kMostListed
+            ? h('p', { class: 'quiet' }, `… ${categories.length}`)
+            : undefined,
+    );
 }
 
 function listKinds({ store, model, texts }: Context, element: HTMLElement): void {
-    const present = kKinds.filter((kind) => kind.shape && !kind.isLoad && model.tableOf(kind).rows > 0);
-    fill(element, h('ul', { class: 'list' }, ...present.map((kind) =>
-        h('li', {}, checkbox(kindName(texts, kind), store.state.shownKinds.has(kind.table),
-            (shows) => store.change({ shownKinds: changed(store.state.shownKinds, kind.table, shows) }),
-            store.state.colourBy === 'kind' ? swatch(colourOfKind(kind)) : undefined,
-            h('span', { class: 'count' }, model.tableOf(kind).rows))))));
+    const present = kKinds.filter(
+        (kind) => kind.shape && !kind.isLoad && model.tableOf(kind).rows > 0,
+    );
+    fill(
+        element,
+        h(
+            'ul',
+            { class: 'list' },
+            ...present.map((kind) =>
+                h(
+                    'li',
+                    {},
+                    checkbox(
+                        kindName(texts, kind),
+                        store.state.shownKinds.has(kind.table),
+                        (shows) =>
+                            store.change({
+                                shownKinds: changed(store.state.shownKinds, kind.table, shows),
+                            }),
+                        store.state.colourBy === 'kind' ? swatch(colourOfKind(kind)) : undefined,
+                        h('span', { class: 'count' }, model.tableOf(kind).rows),
+                    ),
+                ),
+            ),
+        ),
+    );
 }
 
 function listLevels({ store, levels, model, texts }: Context, element: HTMLElement): void {
     const entries = levels.heights.map((height, level) => {
         const key = levelKey(level);
         const name = `${texts.upTo} ${numberText(height + model.centre.z, 6)} m`;
-        return h('li', {}, checkbox(name, !store.state.hidden.has(key),
-            (shows) => store.change({ hidden: changed(store.state.hidden, key, !shows) })),
-        button(texts.only, () => {
-            const others = levels.heights.map((_, i) => levelKey(i)).filter((other) => other !== key);
-            const rest = [...store.state.hidden].filter((other) => !other.startsWith('level:'));
-            store.change({ hidden: new Set([...rest, ...others]) });
-        }, { class: 'link only', 'aria-label': `${texts.onlyThis} ${name}` }));
+        return h(
+            'li',
+            {},
+            checkbox(name, !store.state.hidden.has(key), (shows) =>
+                store.change({ hidden: changed(store.state.hidden, key, !shows) }),
+            ),
+            button(
+                texts.only,
+                () => {
+                    const others = levels.heights
+                        .map((_, i) => levelKey(i))
+                        .filter((other) => other !== key);
+                    const rest = [...store.state.hidden].filter(
+                        (other) => !other.startsWith('level:'),
+                    );
+                    store.change({ hidden: new Set([...rest, ...others]) });
+                },
+                { class: 'link only', 'aria-label': `${texts.onlyThis} ${name}` },
+            ),
+        );
     });
     fill(element, h('ul', { class: 'list' }, ...entries.reverse()));
 }
@@ -102,8 +177,24 @@ type Switch = 'solids' | 'thickness' | 'releases' | 'axes' | 'labels' | 'markers
 
 function listDisplay({ store, texts }: Context, element: HTMLElement): void {
     const entry = (key: Switch, name: string): HTMLElement =>
-        h('li', {}, checkbox(name, store.state[key], (isOn) => store.change({ [key]: isOn } as Partial<State>)));
-    fill(element, h('ul', { class: 'list' },
-        entry('solids', texts.solids), entry('thickness', texts.thicknessOf), entry('releases', texts.releases),
-        entry('axes', texts.axes), entry('labels', texts.labels), entry('markers', texts.markers)));
+        h(
+            'li',
+            {},
+            checkbox(name, store.state[key], (isOn) =>
+                store.change({ [key]: isOn } as Partial<State>),
+            ),
+        );
+    fill(
+        element,
+        h(
+            'ul',
+            { class: 'list' },
+            entry('solids', texts.solids),
+            entry('thickness', texts.thicknessOf),
+            entry('releases', texts.releases),
+            entry('axes', texts.axes),
+            entry('labels', texts.labels),
+            entry('markers', texts.markers),
+        ),
+    );
 }

@@ -27,7 +27,10 @@ export class Overlay {
     private labels: Label[] | undefined; // found when they are next drawn
     private readonly pen: CanvasRenderingContext2D;
 
-    constructor(private readonly canvas: HTMLCanvasElement, private readonly context: Context) {
+    constructor(
+        private readonly canvas: HTMLCanvasElement,
+        private readonly context: Context,
+    ) {
         this.pen = canvas.getContext('2d')!;
         const { store } = context;
         store.on(['labels', 'loadCase', 'loadScale', 'showValues', 'shownKinds'], () => {
@@ -63,7 +66,10 @@ export class Overlay {
 
     private findLabels(): Label[] {
         const { state } = this.context.store;
-        return [...(state.showValues ? this.loadLabels() : []), ...(state.labels ? this.elementLabels() : [])];
+        return [
+            ...(state.showValues ? this.loadLabels() : []),
+            ...(state.labels ? this.elementLabels() : []),
+        ];
     }
 
     private loadLabels(): Label[] {
@@ -76,16 +82,35 @@ export class Overlay {
             const { item } = load;
             const per = item.kind === kPointLoads ? '' : item.kind === kLineLoads ? '/m' : '/m²';
             const frame = model.tableOf(item.kind).column('Repere').number(item.rank);
-            const note = frame === kLocal ? ` ${texts.local}` : frame === kProjected ? ` ${texts.projected}` : '';
+            const note =
+                frame === kLocal
+                    ? ` ${texts.local}`
+                    : frame === kProjected
+                      ? ` ${texts.projected}`
+                      : '';
             const text = forceText(size, (isMoment ? 'Nm' : 'N') + per) + note;
-            return [{ at: tailOf(at, loads.factorOf(load, isMoment)), text, isLoad: true, item: item.number }];
+            return [
+                {
+                    at: tailOf(at, loads.factorOf(load, isMoment)),
+                    text,
+                    isLoad: true,
+                    item: item.number,
+                },
+            ];
         });
     }
 
     private elementLabels(): Label[] {
         const { model, store } = this.context;
         const labels: Label[] = [];
-        for (const table of ['Nodes', 'Filaires', 'Surfaciques', 'Parois', 'AppuisPonctuels', 'Masses']) {
+        for (const table of [
+            'Nodes',
+            'Filaires',
+            'Surfaciques',
+            'Parois',
+            'AppuisPonctuels',
+            'Masses',
+        ]) {
             const ofKind = kind(table);
             if (!store.state.shownKinds.has(table)) continue;
             const rows = Math.min(model.tableOf(ofKind).rows, kMostLabels);
@@ -94,7 +119,12 @@ export class Overlay {
                 const place = model.placeOf(item);
                 if (place.length === 0) continue;
                 const text = this.textOf(item);
-                labels.push({ at: middleOf(place), text: text.slice(0, 60), isLoad: false, item: item.number });
+                labels.push({
+                    at: middleOf(place),
+                    text: text.slice(0, 60),
+                    isLoad: false,
+                    item: item.number,
+                });
             }
         }
         return labels;
@@ -103,7 +133,8 @@ export class Overlay {
     private textOf(item: Item): string {
         const { model } = this.context;
         const identifier = String(model.identifierOf(item));
-        if (item.kind === kBars || item.kind === kSurfaces) return model.labelsOf(item)[0] || identifier;
+        if (item.kind === kBars || item.kind === kSurfaces)
+            return model.labelsOf(item)[0] || identifier;
         return item.kind === kWalls ? `${identifier} ${this.climateOf(item)}` : identifier;
     }
 
@@ -114,7 +145,10 @@ export class Overlay {
         const parts: string[] = [];
         if (table.column('bNeige').number(item.rank) !== 0) parts.push(texts.snow);
         if (table.column('bVent').number(item.rank) !== 0) {
-            const zones = table.column('dCe').numbers(item.rank).map((value) => numberText(value, 3));
+            const zones = table
+                .column('dCe')
+                .numbers(item.rank)
+                .map((value) => numberText(value, 3));
             parts.push(`${texts.wind} Ce ${zones.join(' / ')}`);
         }
         return parts.join(', ');
@@ -147,7 +181,8 @@ export class Overlay {
     private take(taken: Set<number>, x: number, y: number, wide: number): boolean {
         const cells: number[] = [];
         for (let column = Math.floor(x / 12); column <= Math.floor((x + wide) / 12); ++column) {
-            for (const row of [Math.floor((y - 6) / 6), Math.floor(y / 6), Math.floor((y + 6) / 6)]) cells.push(column * 10000 + row);
+            for (const row of [Math.floor((y - 6) / 6), Math.floor(y / 6), Math.floor((y + 6) / 6)])
+                cells.push(column * 10000 + row);
         }
         if (cells.some((cell) => taken.has(cell))) return false;
         for (const cell of cells) taken.add(cell);
@@ -188,8 +223,11 @@ export class Overlay {
         const elements = view.camera.matrixWorldInverse.elements;
         const [x0, y0, size] = [38, height - 38, 24];
         const axes = ['X', 'Y', 'Z'].map((name, i) => ({
-            name, colour: `rgb(${kAxisColours[i]!.join(' ')})`,
-            x: elements[4 * i]!, y: -elements[4 * i + 1]!, z: elements[4 * i + 2]!,
+            name,
+            colour: `rgb(${kAxisColours[i]!.join(' ')})`,
+            x: elements[4 * i]!,
+            y: -elements[4 * i + 1]!,
+            z: elements[4 * i + 2]!,
         }));
         axes.sort((a, b) => a.z - b.z);
         for (const { name, colour, x, y } of axes) {

@@ -8,7 +8,12 @@ import type { Measure } from './measure';
 const kClick = 5; // pixels: more is a turn
 const kQuick = 60; // ms: when looking takes longer, the pointer must rest
 
-export function listenToPointer(context: Context, canvas: HTMLCanvasElement, tip: HTMLElement, measure: Measure): void {
+export function listenToPointer(
+    context: Context,
+    canvas: HTMLCanvasElement,
+    tip: HTMLElement,
+    measure: Measure,
+): void {
     const { stage, store, model, texts } = context;
     if (!stage) return;
     let down: { x: number; y: number } | undefined;
@@ -51,7 +56,8 @@ export function listenToPointer(context: Context, canvas: HTMLCanvasElement, tip
     canvas.addEventListener('pointerleave', leave);
     canvas.addEventListener('pointerup', (event) => {
         const place = placeOf(event);
-        const isClick = down && Math.hypot(place.x - down.x, place.y - down.y) <= kClick && event.button === 0;
+        const isClick =
+            down && Math.hypot(place.x - down.x, place.y - down.y) <= kClick && event.button === 0;
         down = undefined;
         if (!isClick) return;
         const item = stage.pick(place.x, place.y);

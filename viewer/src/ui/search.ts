@@ -16,7 +16,9 @@ export function search(model: Model, wanted: string): Item[] {
     const add = (item: Item | undefined): void => {
         if (item && found.size < kMost) found.set(item.number, item);
     };
-    if (/^-?\d+$/.test(text)) for (const kind of kKinds) add(kind.identifier ? model.find(kind, Number(text)) : undefined);
+    if (/^-?\d+$/.test(text))
+        for (const kind of kKinds)
+            add(kind.identifier ? model.find(kind, Number(text)) : undefined);
     const matches = (isMatch: (candidate: string) => boolean): Set<number> => {
         const places = new Set<number>();
         model.data.pool.texts.forEach((candidate, place) => {
@@ -24,7 +26,10 @@ export function search(model: Model, wanted: string): Item[] {
         });
         return places;
     };
-    for (const places of [matches((one) => one.startsWith(text)), matches((one) => one.includes(text))]) {
+    for (const places of [
+        matches((one) => one.startsWith(text)),
+        matches((one) => one.includes(text)),
+    ]) {
         if (places.size === 0) continue;
         for (const kind of kKinds) findTexts(model, kind, places, add, () => found.size >= kMost);
     }
@@ -32,7 +37,11 @@ export function search(model: Model, wanted: string): Item[] {
 }
 
 function findTexts(
-    model: Model, kind: (typeof kKinds)[number], places: Set<number>, add: (item: Item) => void, isEnough: () => boolean,
+    model: Model,
+    kind: (typeof kKinds)[number],
+    places: Set<number>,
+    add: (item: Item) => void,
+    isEnough: () => boolean,
 ): void {
     const table = model.tableOf(kind);
     for (const name of kTextColumns) {
@@ -54,10 +63,24 @@ export function makeSearch(context: Context): HTMLElement {
     const listId = newId();
     let results: Item[] = [];
     let current = -1;
-    const list = h('ul', { class: 'results', role: 'listbox', id: listId, 'aria-label': texts.results, hidden: true });
+    const list = h('ul', {
+        class: 'results',
+        role: 'listbox',
+        id: listId,
+        'aria-label': texts.results,
+        hidden: true,
+    });
     const input = h('input', {
-        type: 'search', id: 'search', role: 'combobox', placeholder: texts.search, 'aria-label': texts.search, autocomplete: 'off',
-        'aria-expanded': 'false', 'aria-controls': listId, 'aria-autocomplete': 'list', spellcheck: 'false',
+        type: 'search',
+        id: 'search',
+        role: 'combobox',
+        placeholder: texts.search,
+        'aria-label': texts.search,
+        autocomplete: 'off',
+        'aria-expanded': 'false',
+        'aria-controls': listId,
+        'aria-autocomplete': 'list',
+        spellcheck: 'false',
     });
     const take = (item: Item | undefined): void => {
         if (!item) return;
@@ -70,13 +93,39 @@ export function makeSearch(context: Context): HTMLElement {
         input.removeAttribute('aria-activedescendant');
     };
     const show = (): void => {
-        const option = (item: Item, i: number): HTMLElement => h('li', {
-            role: 'option', id: `${listId}-${i}`, 'aria-selected': String(i === current),
-            // Before the field loses the focus and closes the list.
-            mousedown: (event: Event) => { event.preventDefault(); take(item); },
-        }, h('span', { class: 'grow' }, nameOf(model, texts, item)), h('span', { class: 'quiet' }, titleOf(model, item)));
-        fill(list, ...(results.length > 0 ? results.map(option)
-            : [h('li', { role: 'option', class: 'quiet', 'aria-disabled': 'true', 'aria-selected': 'false' }, texts.noResult)]));
+        const option = (item: Item, i: number): HTMLElement =>
+            h(
+                'li',
+                {
+                    role: 'option',
+                    id: `${listId}-${i}`,
+                    'aria-selected': String(i === current),
+                    // Before the field loses the focus and closes the list.
+                    mousedown: (event: Event) => {
+                        event.preventDefault();
+                        take(item);
+                    },
+                },
+                h('span', { class: 'grow' }, nameOf(model, texts, item)),
+                h('span', { class: 'quiet' }, titleOf(model, item)),
+            );
+        fill(
+            list,
+            ...(results.length > 0
+                ? results.map(option)
+                : [
+                      h(
+                          'li',
+                          {
+                              role: 'option',
+                              class: 'quiet',
+                              'aria-disabled': 'true',
+                              'aria-selected': 'false',
+                          },
+                          texts.noResult,
+                      ),
+                  ]),
+        );
         list.hidden = input.value.trim() === '';
         input.setAttribute('aria-expanded', String(!list.hidden));
         if (current >= 0) {
@@ -105,7 +154,8 @@ export function makeSearch(context: Context): HTMLElement {
             take(results[current]);
         } else if ((event.key === 'ArrowDown' || event.key === 'ArrowUp') && results.length > 0) {
             event.preventDefault();
-            current = (current + (event.key === 'ArrowDown' ? 1 : -1) + results.length) % results.length;
+            current =
+                (current + (event.key === 'ArrowDown' ? 1 : -1) + results.length) % results.length;
             show();
         }
     });

@@ -9,8 +9,20 @@ import { button, fill, h, newId, save } from './dom';
 import { cellText, Grid } from './grid';
 
 // What begins the rows, whatever the order of the contract.
-const kLeading = ['identifier', 'lIdentifier', 'Num', 'iNumCas', 'ElemLabels.tabLabels', 'Titre', 'MaterialName',
-    'SectionLib', 'AttacheLib', 'ElementType', 'GroupNumber', 'NumCas'];
+const kLeading = [
+    'identifier',
+    'lIdentifier',
+    'Num',
+    'iNumCas',
+    'ElemLabels.tabLabels',
+    'Titre',
+    'MaterialName',
+    'SectionLib',
+    'AttacheLib',
+    'ElementType',
+    'GroupNumber',
+    'NumCas',
+];
 // Numbers of values, which the values tell themselves.
 const kCounts = /(^|\.)nb(Points|Labels)$/;
 
@@ -20,7 +32,9 @@ function columnsOf(context: Context, kind: Kind): Column[] {
         const found = kLeading.indexOf(column.name);
         return column.name === 'line' ? 1e6 : found < 0 ? 1000 : found;
     };
-    return columns.filter((column) => !kCounts.test(column.name)).sort((a, b) => place(a) - place(b));
+    return columns
+        .filter((column) => !kCounts.test(column.name))
+        .sort((a, b) => place(a) - place(b));
 }
 
 function textOfCell(context: Context, column: Column, row: number): string {
@@ -28,7 +42,9 @@ function textOfCell(context: Context, column: Column, row: number): string {
     const of = refersTo ? kindOfTable(refersTo) : undefined;
     if (!of) return cellText(column, row);
     const rank = column.number(row);
-    return rank < 0 ? '–' : titleOf(context.model, context.model.item(of, rank)) || String(rank + 1);
+    return rank < 0
+        ? '–'
+        : titleOf(context.model, context.model.item(of, rank)) || String(rank + 1);
 }
 
 export function firstTable({ model }: Context): string | undefined {
@@ -40,9 +56,23 @@ export function makeTables(context: Context, element: HTMLElement): void {
     const present = kKinds.filter((kind) => model.tableOf(kind).rows > 0);
     const id = newId();
     const filterId = newId();
-    const choice = h('select', { id, change: () => store.change({ table: choice.value }) },
-        ...present.map((kind) => h('option', { value: kind.table }, `${kindName(texts, kind)} (${model.tableOf(kind).rows})`)));
-    const filter = h('input', { type: 'search', id: filterId, placeholder: texts.filter, 'aria-label': texts.filter });
+    const choice = h(
+        'select',
+        { id, change: () => store.change({ table: choice.value }) },
+        ...present.map((kind) =>
+            h(
+                'option',
+                { value: kind.table },
+                `${kindName(texts, kind)} (${model.tableOf(kind).rows})`,
+            ),
+        ),
+    );
+    const filter = h('input', {
+        type: 'search',
+        id: filterId,
+        placeholder: texts.filter,
+        'aria-label': texts.filter,
+    });
     const count = h('span', { class: 'quiet', role: 'status' });
     const place = h('div', { class: 'grid-place' });
     let grid: Grid | undefined;
@@ -52,10 +82,25 @@ export function makeTables(context: Context, element: HTMLElement): void {
         clearTimeout(waiting);
         waiting = setTimeout(() => grid?.setFilter(filter.value), 200);
     });
-    element.append(h('header', {},
-        h('label', { for: id, class: 'unseen' }, texts.table), choice, filter, count,
-        button(texts.csv, () => grid && shown && saveCsv(context, shown, grid), { title: texts.csvHelp, 'aria-label': texts.csvHelp }),
-        button('×', () => store.change({ table: undefined }), { class: 'plain', 'aria-label': texts.close })), place);
+    element.append(
+        h(
+            'header',
+            {},
+            h('label', { for: id, class: 'unseen' }, texts.table),
+            choice,
+            filter,
+            count,
+            button(texts.csv, () => grid && shown && saveCsv(context, shown, grid), {
+                title: texts.csvHelp,
+                'aria-label': texts.csvHelp,
+            }),
+            button('×', () => store.change({ table: undefined }), {
+                class: 'plain',
+                'aria-label': texts.close,
+            }),
+        ),
+        place,
+    );
     const tell = (): void => fill(count, `${grid?.shownRows.length ?? 0} ${texts.rows}`);
 
     const markChosen = (): void => {
@@ -71,7 +116,9 @@ export function makeTables(context: Context, element: HTMLElement): void {
         choice.value = kind.table;
         filter.value = '';
         grid = new Grid({
-            table: model.tableOf(kind), label: kindName(texts, kind), columns: columnsOf(context, kind),
+            table: model.tableOf(kind),
+            label: kindName(texts, kind),
+            columns: columnsOf(context, kind),
             nameOf: (column) => fieldName(context.language, column.name),
             cellText: (column, row) => textOfCell(context, column, row),
             choose: (row, flies) => (flies ? context.goTo : context.select)(model.item(kind, row)),
@@ -85,7 +132,8 @@ export function makeTables(context: Context, element: HTMLElement): void {
     store.on(['selected'], () => {
         const last = store.state.selected[store.state.selected.length - 1];
         const item = last === undefined ? undefined : model.itemOf(last);
-        if (item && store.state.table !== undefined && item.kind !== shown) store.change({ table: item.kind.table });
+        if (item && store.state.table !== undefined && item.kind !== shown)
+            store.change({ table: item.kind.table });
         markChosen();
     });
 }
@@ -96,13 +144,20 @@ function csvCell(text: string): string {
     return /[",;\r\n]/.test(safe) ? `"${safe.replaceAll('"', '""')}"` : safe;
 }
 
-export function csvOf(columns: Column[], rows: Iterable<number>, textAt: (column: Column, row: number) => string): string {
+export function csvOf(
+    columns: Column[],
+    rows: Iterable<number>,
+    textAt: (column: Column, row: number) => string,
+): string {
     const lines = [columns.map((column) => csvCell(column.name)).join(',')];
-    for (const row of rows) lines.push(columns.map((column) => csvCell(textAt(column, row))).join(','));
+    for (const row of rows)
+        lines.push(columns.map((column) => csvCell(textAt(column, row))).join(','));
     return `\ufeff${lines.join('\r\n')}\r\n`; // spreadsheets know UTF-8 by its mark
 }
 
 function saveCsv(context: Context, kind: Kind, grid: Grid): void {
-    const text = csvOf(columnsOf(context, kind), grid.shownRows, (column, row) => textOfCell(context, column, row));
+    const text = csvOf(columnsOf(context, kind), grid.shownRows, (column, row) =>
+        textOfCell(context, column, row),
+    );
     save(new Blob([text], { type: 'text/csv' }), `${kind.table}.csv`);
 }
