@@ -1,31 +1,17 @@
 // What it takes to make a structure of a model and to apply every rule to it.
-#include <fstream>
-
+#include "building_file.h"
 #include "component_subject.h"
 #include "context.h"
 #include "generator.h"
 #include "host/rules/check_model.h"
 #include "host/structure/load_cases.h"
 #include "host/structure/structure.h"
-#include "models/frame_building.h"
-#include "temporary_path.h"
 
 namespace tamur::bench {
 namespace {
 
 // As `tamur check` holds them.
 constexpr std::size_t kHeldFindings = 100;
-
-// With about 7.3 elements a joint.
-test::FrameBuilding BuildingOf(std::uint64_t elements)
-{
-    int bays = 10, storeys = 10;
-    while (7.3 * bays * bays * storeys < static_cast<double>(elements)) {
-        ++bays;
-        storeys = std::min(40, bays);
-    }
-    return {bays, bays, storeys};
-}
 
 void AddRow(Context& context, const std::string& what, const std::filesystem::path& path,
             double must)
@@ -51,9 +37,8 @@ void AddRow(Context& context, const std::string& what, const std::filesystem::pa
 
 void MeasureCheck(Context& context)
 {
-    const TemporaryPath building;
-    std::ofstream(building.Get(), std::ios::binary) << test::Write(BuildingOf(context.Large()));
-    AddRow(context, "frame building", building.Get(), 3);
+    const BuildingFile building(context.Large());
+    AddRow(context, "frame building", building.Path(), 3);
     // Nothing meets where it should, and every surface lies on others.
     const ModelFile random({.elements = context.Small()});
     AddRow(context, "elements anywhere in a building", random.Path(), kNoGoal);

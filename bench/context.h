@@ -33,5 +33,6 @@ void MeasureHostileFiles(Context& context);
 void MeasureRepeatedImports(Context& context);
 void MeasureThreads(Context& context);
 void MeasureCheck(Context& context);
+void MeasureExports(Context& context);
 
 }  // namespace tamur::bench

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "component_subject.h"
+#include "export_subject.h"
 #include "runner.h"
 
 namespace tamur::bench {
@@ -24,11 +25,11 @@ double StatusBytes(const std::string& name)
 
 }  // namespace
 
-FreshImport ImportInFreshProcess(const std::filesystem::path& path)
+FreshImport ImportInFreshProcess(const std::filesystem::path& path, const std::string& exportTarget)
 {
     const std::string program = std::filesystem::read_symlink("/proc/self/exe").string();
-    const std::string command =
-        "'" + program + "' " + kFreshProcessOption + " '" + path.string() + "'";
+    std::string command = "'" + program + "' " + kFreshProcessOption + " '" + path.string() + "'";
+    if (!exportTarget.empty()) command += std::string(" ") + kThenExportOption + " " + exportTarget;
     std::fflush(nullptr);
     std::FILE* const answer = popen(command.c_str(), "r");
     if (answer == nullptr) throw std::runtime_error("no process for an import of its own");
@@ -41,12 +42,13 @@ FreshImport ImportInFreshProcess(const std::filesystem::path& path)
     return result;
 }
 
-void MeasureInThisProcess(const std::filesystem::path& path)
+void MeasureInThisProcess(const std::filesystem::path& path, const std::string& exportTarget)
 {
     TheComponent();
     const double before = StatusBytes("VmRSS:");
     ComPtr<ITAMURStructureReader> reader;
     const double import = Timed([&] { reader = Imported(path); });
+    if (!exportTarget.empty()) Export(*reader, exportTarget);
     const double peak = StatusBytes("VmHWM:") - before;
     const double release = Timed([&] { reader = ComPtr<ITAMURStructureReader>(); });
     std::printf("%.9f %.9f %.0f\n", import, release, peak);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace tamur::bench {
 
@@ -12,12 +13,15 @@ struct FreshImport {
     double peakBytes = 0;  // resident, above what the process had before the import
 };
 
-// Runs this program again, with the option that MeasureInThisProcess serves.
-[[nodiscard]] FreshImport ImportInFreshProcess(const std::filesystem::path& path);
+// Runs this program again, with the options that MeasureInThisProcess serves. The peak is that of
+// the import and of an export, when one is named.
+[[nodiscard]] FreshImport ImportInFreshProcess(const std::filesystem::path& path,
+                                               const std::string& exportTarget = {});
 
 inline constexpr const char* kFreshProcessOption = "--import-and-measure";
+inline constexpr const char* kThenExportOption = "--then-export";
 
 // Prints what ImportInFreshProcess reads.
-void MeasureInThisProcess(const std::filesystem::path& path);
+void MeasureInThisProcess(const std::filesystem::path& path, const std::string& exportTarget);
 
 }  // namespace tamur::bench

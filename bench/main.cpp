@@ -28,6 +28,7 @@ const Group kGroups[] = {
     {"repeated", MeasureRepeatedImports},
     {"threads", MeasureThreads},
     {"check", MeasureCheck},
+    {"exports", MeasureExports},
 };
 
 // Memory that was given back stays with the process, so that only the warm-up runs touch memory
@@ -59,7 +60,7 @@ void Measure(Context& context, const std::vector<std::string>& only)
 int Run(int count, char** arguments)
 {
     Context context;
-    std::string json, imported;
+    std::string json, imported, exported;
     std::vector<std::string> only, names;
     for (const Group& group : kGroups) names.push_back(group.name);
     CLI::App app("Measures TAMUR Reader.", "tamur_bench");
@@ -70,9 +71,10 @@ int Run(int count, char** arguments)
         ->check(CLI::IsMember(names));
     // An empty group hides it from the help: the program calls itself with it.
     app.add_option(kFreshProcessOption, imported)->group("");
+    app.add_option(kThenExportOption, exported)->group("");
     CLI11_PARSE(app, count, arguments);
     if (!imported.empty()) {
-        MeasureInThisProcess(imported);
+        MeasureInThisProcess(imported, exported);
         return 0;
     }
     Measure(context, only);

@@ -47,7 +47,7 @@ struct Target {
     std::string_view folderOf;    // the ending of the files when the output is a folder of them
     Need need;
     // Writes to where `output` says, after it was told what the output is to be. Throws
-    // OutputError, ExportStopped and std::bad_alloc. Null: not in this build.
+    // OutputError, ExportStopped and std::bad_alloc.
     void (*write)(const Source& source, const std::filesystem::path& path, Output& output,
                   ExportReport& report);
 };

@@ -9,6 +9,8 @@ void WriteCsv(const Source& source, const std::filesystem::path& path, Output& o
               ExportReport& report);
 void WriteXlsx(const Source& source, const std::filesystem::path& path, Output& output,
                ExportReport& report);
+void WriteSaf(const Source& source, const std::filesystem::path& path, Output& output,
+              ExportReport& report);
 
 void WriteVtu(const Source& source, const std::filesystem::path& path, Output& output,
               ExportReport& report);

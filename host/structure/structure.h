@@ -39,11 +39,11 @@ struct Lists {
 
 // What each thing with a place has.
 struct Element {
-    Kind kind = Kind::kNone;
-    Index rank = 0;  // in its table
     std::int64_t identifier = 0;
+    Index rank = 0;         // in its table
     Index firstCorner = 0;  // in Structure::corners
     Index cornerCount = 0;
+    Kind kind = Kind::kNone;
     bool isUsable = true;  // false: a coordinate that cannot be meant
 };
 

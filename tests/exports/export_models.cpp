@@ -34,9 +34,9 @@ bool Export(const fs::path& model, const std::vector<std::string>& kinds)
     bool isAsExpected = expected != tool::exit_code::kTrouble;
     for (const std::string& kind : kinds) {
         std::ofstream summary(named("." + kind + "-summary"), std::ios::binary);
-        const int code =
-            Run({"export", model.string(), "--to", kind, "--lang", "en", "-o", named("." + kind)},
-                summary);
+        const int code = Run({"export", model.string(), "--to", kind, "--lang", "en", "-o",
+                              named("." + kind + (kind == "saf" ? ".xlsx" : ""))},
+                             summary);
         if (code != expected) std::cerr << model << ": " << kind << " ends with " << code << '\n';
         isAsExpected = isAsExpected && code == expected;
     }

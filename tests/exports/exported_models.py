@@ -34,8 +34,9 @@ def hostile_model():
 
 
 @contextlib.contextmanager
-def exported(kinds):
-    """Yields (path of the model, its dump, path of the export by kind)."""
+def exported(kinds, further=None):
+    """Yields (path of the model, its dump, path of the export by kind). `further` are models by
+    their names."""
     export_models, write_models, samples = sys.argv[1:4]
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
@@ -44,6 +45,8 @@ def exported(kinds):
             shutil.copy(sample, folder)
         (folder / 'hostile.txt').write_bytes(hostile_model())
         (folder / 'empty.txt').write_bytes(SETTINGS)
+        for stem, content in (further or {}).items():
+            (folder / (stem + '.txt')).write_bytes(content)
         run = subprocess.run([export_models, folder, *kinds],
                              stderr=subprocess.PIPE, text=True, check=False)
         if run.returncode != 0:
@@ -53,7 +56,8 @@ def exported(kinds):
 
 def _models(folder, kinds):
     for dump in sorted(folder.glob('*.json')):
-        path = {kind: dump.with_suffix('.' + kind) for kind in kinds}
+        path = {kind: dump.with_suffix('.' + kind + ('.xlsx' if kind == 'saf' else ''))
+                for kind in kinds}
         with open(dump, encoding='utf-8') as file:
             yield dump.with_suffix('.txt'), json.load(file), path
 

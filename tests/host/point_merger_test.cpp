@@ -54,7 +54,8 @@ TEST(PointMerger, MergesAsASearchThroughAllPointsWould)
         merger.AddNumbersOf(std::span(points).first(1001), numbers);
         merger.AddNumbersOf(std::span(points).subspan(1001), numbers);
         EXPECT_EQ(numbers, NumbersBySearch(points, 1)) << width;
-        EXPECT_EQ(merger.TakePoints().size(), *std::max_element(numbers.begin(), numbers.end()) + 1);
+        EXPECT_EQ(merger.TakePoints().size(),
+                  *std::max_element(numbers.begin(), numbers.end()) + 1);
     }
 }
 

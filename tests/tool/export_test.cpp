@@ -104,5 +104,117 @@ TEST(Export, ReplacesOnlyWhatItIsToldTo)
     EXPECT_THAT(folder.Names(), testing::ElementsAre("a-csv"));
 }
 
+// Bars of two groups that meet, with a load on each.
+std::string TwoGroups()
+{
+    const auto bar = [](int identifier, const std::string& from, const std::string& to, int group) {
+        return "2 " + std::to_string(identifier) + " 0 2 0  " + from + "  " + to + "  0 0 0  " +
+               std::to_string(group) + " 2 0 0 1 1 1 1 1 1 5 0 0 0 0 0";
+    };
+    return ModelText()
+        .Section("#Groupes", {"2 1 2 Poutres Oui", "2 2 2 Poteaux Oui"})
+        .Section("#Cas", {"1 G 1 G 0", "2 Q 1 Q 0", "3 E 2 ELU 0"})
+        .Section("#TAB_PARAM_CAS", {"3 2 2 1.5 32767 0"})
+        .Elements({bar(11, "0 0 3", "4 0 3", 1), bar(12, "0 0 0", "0 0 3", 2),
+                   "1 1 0 1 0  0 0 0  0 0 0  0", "1 2 0 1 0  4 0 3  0 0 0  0",
+                   "5 21 0 1 0  4 0 3  0 0 0  1 1 0 0 -1 0 0 0",
+                   "5 22 0 1 0  0 0 1  0 0 0  2 1 0 0 -1 0 0 0",
+                   "4 31 0 1 0  0 0 0  0 0 0  1 1 0 0 1e9 1e9 1e9 0 0 0 0 0 0 0 0 0 0"})
+        .Text();
+}
+
+// The second column of a table, which has the identifiers; nothing when there is no such table.
+std::vector<std::string> Identifiers(const std::string& path)
+{
+    std::vector<std::string> found;
+    std::ifstream file(path);
+    std::string line;
+    std::getline(file, line);
+    while (std::getline(file, line)) {
+        const std::size_t comma = line.find(',');
+        found.push_back(line.substr(comma + 1, line.find(',', comma + 1) - comma - 1));
+    }
+    return found;
+}
+
+TEST(Export, TakesTheGroupsAndCasesThatItIsTold)
+{
+    const TemporaryFile model(TwoGroups());
+    const auto exported = [&](const std::vector<std::string>& options) {
+        const ExportFolder folder;
+        std::vector<std::string> arguments = {"export", model.Path(), "-o", folder / "m-csv"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const ToolRun run = RunTool(arguments);
+        EXPECT_EQ(run.exitCode, 0) << run.errors;
+        std::vector<std::vector<std::string>> found;
+        for (const char* table : {"Filaires", "Nodes", "ChargesPonctuelles", "AppuisPonctuels"}) {
+            found.push_back(Identifiers(folder / ("m-csv/" + std::string(table) + ".csv")));
+        }
+        return found;
+    };
+    using Found = std::vector<std::vector<std::string>>;
+    const std::vector<std::string> none;
+    EXPECT_EQ(exported({}), (Found{{"11", "12"}, {"1", "2"}, {"21", "22"}, {"31"}}));
+    EXPECT_EQ(exported({"--group", "Poutres"}), (Found{{"11"}, {"2"}, {"21"}, none}));
+    EXPECT_EQ(exported({"--group", "bars:2"}), (Found{{"12"}, {"1"}, {"22"}, none}));
+    EXPECT_EQ(exported({"--group", "point-supports:1"}), (Found{none, {"1"}, none, {"31"}}));
+    EXPECT_EQ(exported({"--group", "bars:2", "--group", "bars:1"}),
+              (Found{{"11", "12"}, {"1", "2"}, {"21", "22"}, none}));
+    EXPECT_EQ(exported({"--case", "1"}), (Found{{"11", "12"}, {"1", "2"}, {"21"}, {"31"}}));
+    EXPECT_EQ(exported({"--case", "3"}), (Found{{"11", "12"}, {"1", "2"}, {"22"}, {"31"}}));
+}
+
+TEST(Export, SaysWhatIsLostInBothLanguages)
+{
+    const ExportFolder folder;
+    const auto summary = [&](const char* language) {
+        return RunTool({"export", Sample("hall"), "-o", folder / "h.saf.xlsx", "--force", "--lang",
+                        language})
+            .output;
+    };
+    EXPECT_THAT(summary("en"),
+                AllOf(HasSubstr("h.saf.xlsx\nnot written:\n"),
+                      HasSubstr("  cable (16): the format has nothing like it\n"),
+                      HasSubstr("written in part, or otherwise:\n"), HasSubstr("assumed:\n")));
+    EXPECT_THAT(summary("fr"), AllOf(HasSubstr("non écrit :\n"),
+                                     HasSubstr("  câble (16) : le format n'a rien de tel\n")));
+}
+
+// Of each kind: what was there stays, and nothing else comes to be there.
+TEST(Export, DiskThatIsFullLeavesWhatWasThere)
+{
+    for (const char* name : {"a-csv", "a.xlsx", "a.saf.xlsx"}) {
+        const ExportFolder folder;
+        const std::vector<std::string> once = {"export", Sample("batiment"), "-o", folder / name,
+                                               "--force"};
+        ExpectTrouble(RunTool(once, "ulimit -f 8;"),
+                      "the output cannot be written: File too large");
+        EXPECT_THAT(folder.Names(), IsEmpty()) << name;
+        EXPECT_EQ(RunTool(once).exitCode, 0);
+        const auto before = fs::last_write_time(folder / name);
+        EXPECT_EQ(RunTool(once, "ulimit -f 8;").exitCode, 2);
+        EXPECT_EQ(fs::last_write_time(folder / name), before);
+        EXPECT_THAT(folder.Names(), testing::ElementsAre(name));
+    }
+}
+
+TEST(Export, SignalLeavesNothing)
+{
+    std::string text = TwoGroups();
+    for (int i = 0; i < 200000; ++i) {
+        text +=
+            "1 " + std::to_string(i + 100) + " 0 1 0  " + std::to_string(i) + " 0 0  0 0 0  0\n";
+    }
+    const TemporaryFile model(text);
+    const ExportFolder folder;
+    // As soon as something is written; a workbook of that size takes seconds.
+    const std::string stop = "watch() { while [ -z \"$(ls -A " + (folder / "") +
+                             ")\" ]; do :; done; kill -TERM $1; }; "
+                             "run() { \"$@\" & watch $!; wait $!; }; run ";
+    ExpectTrouble(RunTool({"export", model.Path(), "-o", folder / "a.xlsx"}, stop),
+                  "stopped: nothing was written");
+    EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace tamur::test

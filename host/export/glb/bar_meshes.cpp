@@ -54,8 +54,7 @@ std::uint32_t BarMeshes::PrismOf(Index section)
     if (known != prisms_.end()) return known->second;
     const auto& points = outlines_[section].points;
     const Solid solid = SolidOfBar(points, points, triangulator_);
-    const std::uint32_t mesh =
-        meshes_.Add(solid.points, solid.corners, MeshMode::kTriangles, material_);
+    const std::uint32_t mesh = meshes_.Add(solid.points, solid.corners, material_);
     prisms_.emplace(section, mesh);
     return mesh;
 }
@@ -74,8 +73,7 @@ std::optional<std::uint32_t> BarMeshes::TaperOf(const Bar& bar, int excentration
     }
     const Solid solid = SolidOfBar(Moved(start.points, OffsetOf(start, excentration)),
                                    Moved(end.points, OffsetOf(end, excentration)), triangulator_);
-    const std::uint32_t mesh =
-        meshes_.Add(solid.points, solid.corners, MeshMode::kTriangles, material_);
+    const std::uint32_t mesh = meshes_.Add(solid.points, solid.corners, material_);
     tapers_.emplace(key, mesh);
     return mesh;
 }

@@ -120,6 +120,8 @@ class GlbScene {
         Centring centring;
         for (const Point& point : structure_.points) centring.Add(point);
         centre_ = centring.Centre();
+        axes_.reserve(2 * structure_.bars.size());
+        meshes_.Expect(structure_.surfaces.size() + structure_.walls.size());
     }
 
     void Write()
@@ -326,7 +328,7 @@ class GlbScene {
         if (!cut || cut->triangles.corners.empty()) return;
         const double drawn = IsSensible({thickness, 0, 0}) ? thickness : 0;
         MakeSolid(cut->triangles, cut->frame.z, drawn, origin, solid_);
-        WriteMesh(meshes_.Add(solid_.points, solid_.corners, MeshMode::kTriangles, material));
+        WriteMesh(meshes_.Add(solid_.points, solid_.corners, material));
     }
 
     void WriteMesh(std::uint32_t mesh)
@@ -344,9 +346,8 @@ class GlbScene {
             if (!bar.isUsable) report_.losses.Add(Kind::kBar, kAbsurdShape);
             return WriteTranslation(start);
         }
-        axes_.push_back(start - centre_);
-        axes_.push_back(end - centre_);
-        report_.losses.Add(Kind::kBar, kUpright);
+        axes_.push_back(Centring::Relative(start, centre_));
+        axes_.push_back(Centring::Relative(end, centre_));
         if (bar.type == BarType::kPoutreC) report_.losses.Add(Kind::kBar, kCurved);
         const auto body = bodies_.BodyOf(bar, record.Excentration);
         if (!body) {
@@ -366,7 +367,8 @@ class GlbScene {
     void WriteAxes()
     {
         if (axes_.empty()) return;
-        const std::uint32_t mesh = meshes_.Add(axes_, {}, MeshMode::kLines, kAxisMaterial);
+        report_.losses.Add(Kind::kBar, kUpright, axes_.size() / 2);
+        const std::uint32_t mesh = meshes_.AddLines(std::move(axes_), kAxisMaterial);
         roots_.push_back(scene_->Add("axes of bars", [&] { WriteMesh(mesh); }));
     }
 
@@ -463,7 +465,7 @@ class GlbScene {
     BarMeshes bodies_;
     Point centre_;
     Children roots_;
-    std::vector<Point> axes_;
+    std::vector<Meshes::Position> axes_;
     Solid solid_;
 };
 

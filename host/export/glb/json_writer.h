@@ -1,51 +1,64 @@
 // JSON that is written as it comes: what it describes may be larger than memory should hold twice.
 #pragma once
 
-#include <array>
+#include <tamur/utf8.h>
+
+#include <algorithm>
 #include <charconv>
 #include <concepts>
 #include <ostream>
-#include <string>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace tamur::host {
 
 class JsonWriter {
  public:
-    explicit JsonWriter(std::ostream& out) : out_(out) { text_.reserve(2 * kFlush); }
+    explicit JsonWriter(std::ostream& out) : out_(out) {}
 
     void Begin(char bracket)
     {
         Separate();
-        text_ += bracket;
+        Put(bracket);
         isFirst_ = true;
     }
     void End(char bracket)
     {
-        text_ += bracket;
+        Put(bracket);
         isFirst_ = false;
-        if (text_.size() > kFlush) Flush();
     }
+    // A short name that needs no escapes.
     void Key(std::string_view name)
     {
-        Separate();
-        text_ += '"';
-        text_ += name;
-        text_ += "\":";
+        char* at = Room(name.size() + 4);
+        if (!isFirst_) *at++ = ',';
+        *at++ = '"';
+        at = std::copy(name.begin(), name.end(), at);
+        *at++ = '"';
+        *at++ = ':';
+        Use(at);
         isFirst_ = true;
     }
     // JSON has no word for what is no finite number: "inf", "-inf", "nan".
     void Number(double number);
+    void Number(float number)
+    {
+        Separate();
+        PutNumber(number);
+    }
     template <std::integral Whole>
     void Number(Whole number)
     {
         Separate();
-        AppendNumber(number);
+        PutNumber(number);
     }
-    // UTF-8.
+    // UTF-8, and as the records have it.
     void Text(std::string_view text);
-    void Null() { AppendWord("null"); }
-    void True() { AppendWord("true"); }
+    void Text(WideStringView text);
+    void Null() { PutWord("null"); }
+    void True() { PutWord("true"); }
     template <class... Numbers>
     void Array(std::string_view key, Numbers... numbers)
     {
@@ -57,31 +70,44 @@ class JsonWriter {
 
     void Flush();
     // Of all that was written.
-    [[nodiscard]] std::uint64_t Size() const { return written_ + text_.size(); }
+    [[nodiscard]] std::uint64_t Size() const { return written_ + used_; }
 
  private:
-    static constexpr std::size_t kFlush = 1 << 16;
-
     void Separate()
     {
-        if (!isFirst_) text_ += ',';
+        if (!isFirst_) Put(',');
         isFirst_ = false;
     }
-    void AppendWord(std::string_view word)
+    // A place for so many characters, fewer than the buffer has, and how far it was used.
+    char* Room(std::size_t size)
+    {
+        if (buffer_.size() - used_ < size) Flush();
+        return buffer_.data() + used_;
+    }
+    void Use(const char* end) { used_ = static_cast<std::size_t>(end - buffer_.data()); }
+    void Put(char c)
+    {
+        if (used_ == buffer_.size()) Flush();
+        buffer_[used_++] = c;
+    }
+    void Put(std::string_view text);
+    void PutCharacter(char c);
+    void PutWord(std::string_view word)
     {
         Separate();
-        text_ += word;
+        Put(word);
     }
     template <class Value>
-    void AppendNumber(Value number)
+    void PutNumber(Value number)
     {
-        std::array<char, 32> digits;
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-        text_.append(digits.data(), end);
+        constexpr std::size_t kMostDigits = 32;
+        char* const at = Room(kMostDigits);
+        Use(std::to_chars(at, at + kMostDigits, number).ptr);
     }
 
     std::ostream& out_;
-    std::string text_;
+    std::vector<char> buffer_ = std::vector<char>(1 << 17);
+    std::size_t used_ = 0;
     std::uint64_t written_ = 0;
     bool isFirst_ = true;  // of its list, or after its key
 };

@@ -2,12 +2,16 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
+
+#include "host/geometry/centring.h"
 
 namespace tamur::host {
 namespace {
 
 // Of glTF.
 constexpr int kFloat = 5126, kUnsignedShort = 5123, kUnsignedInt = 5125;
+constexpr int kLines = 1, kTriangles = 4;
 constexpr int kArrayBuffer = 34962, kElementArrayBuffer = 34963;
 constexpr std::size_t kMostNarrow = 65535;  // the largest index restarts primitives
 
@@ -18,8 +22,25 @@ std::uint64_t PaddedToWords(std::uint64_t size)
 
 }  // namespace
 
+void Meshes::Mesh::Surround(const Position& position)
+{
+    for (std::size_t i = 0; i < 3; ++i) {
+        low[i] = std::min(low[i], position[i]);
+        high[i] = std::max(high[i], position[i]);
+    }
+}
+
+void Meshes::Expect(std::size_t surfaces)
+{
+    // Of both sides, some with openings. What is not used takes no memory.
+    constexpr std::size_t kPositions = 16, kIndices = 72;
+    positions_.reserve(kPositions * surfaces);
+    narrow_.reserve(kIndices * surfaces);
+    meshes_.reserve(surfaces + 1);
+}
+
 std::uint32_t Meshes::Add(const std::vector<Point>& points,
-                          const std::vector<std::uint32_t>& corners, MeshMode mode, int material)
+                          const std::vector<std::uint32_t>& corners, int material)
 {
     Mesh mesh = {};
     mesh.firstPosition = static_cast<std::uint32_t>(positions_.size());
@@ -27,22 +48,30 @@ std::uint32_t Meshes::Add(const std::vector<Point>& points,
     mesh.isWide = points.size() > kMostNarrow;
     mesh.firstIndex = static_cast<std::uint32_t>(mesh.isWide ? wide_.size() : narrow_.size());
     mesh.indexCount = static_cast<std::uint32_t>(corners.size());
-    mesh.mode = mode;
     mesh.material = static_cast<std::uint8_t>(material);
     for (const Point& point : points) {
-        const std::array<float, 3> position = {
-            static_cast<float>(point.x), static_cast<float>(point.y), static_cast<float>(point.z)};
-        if (mesh.firstPosition == positions_.size()) mesh.low = mesh.high = position;
-        for (std::size_t i = 0; i < 3; ++i) {
-            mesh.low[i] = std::min(mesh.low[i], position[i]);
-            mesh.high[i] = std::max(mesh.high[i], position[i]);
-        }
-        positions_.push_back(position);
+        positions_.push_back(Centring::Relative(point, {}));
+        if (positions_.size() == mesh.firstPosition + 1) mesh.low = mesh.high = positions_.back();
+        mesh.Surround(positions_.back());
     }
     for (const std::uint32_t corner : corners) {
         if (mesh.isWide) wide_.push_back(corner);
         if (!mesh.isWide) narrow_.push_back(static_cast<std::uint16_t>(corner));
     }
+    meshes_.push_back(mesh);
+    return static_cast<std::uint32_t>(meshes_.size() - 1);
+}
+
+std::uint32_t Meshes::AddLines(std::vector<Position> points, int material)
+{
+    Mesh mesh = {};
+    mesh.firstPosition = static_cast<std::uint32_t>(positions_.size());
+    mesh.positionCount = static_cast<std::uint32_t>(points.size());
+    mesh.isLines = true;
+    mesh.material = static_cast<std::uint8_t>(material);
+    mesh.low = mesh.high = points.front();
+    for (const Position& position : points) mesh.Surround(position);
+    lines_ = std::move(points);
     meshes_.push_back(mesh);
     return static_cast<std::uint32_t>(meshes_.size() - 1);
 }
@@ -105,7 +134,7 @@ void Meshes::Write(JsonWriter& out) const
             out.Number(accessor++);
         }
         out.Key("mode");
-        out.Number(static_cast<int>(mesh.mode));
+        out.Number(mesh.isLines ? kLines : kTriangles);
         out.Key("material");
         out.Number(int{mesh.material});
         out.End('}');
@@ -136,7 +165,7 @@ void Meshes::Write(JsonWriter& out) const
         out.End('}');
         offset += PaddedToWords(size);
     };
-    view(12 * positions_.size(), kArrayBuffer, 12);
+    view(12 * PositionCount(), kArrayBuffer, 12);
     view(2 * narrow_.size(), kElementArrayBuffer);
     view(4 * wide_.size(), kElementArrayBuffer);
     out.End(']');
@@ -151,7 +180,7 @@ void Meshes::Write(JsonWriter& out) const
 
 std::uint64_t Meshes::ByteSize() const
 {
-    return 12 * positions_.size() + PaddedToWords(2 * narrow_.size()) + 4 * wide_.size();
+    return 12 * PositionCount() + PaddedToWords(2 * narrow_.size()) + 4 * wide_.size();
 }
 
 void Meshes::WriteBytes(std::ostream& out) const
@@ -162,6 +191,7 @@ void Meshes::WriteBytes(std::ostream& out) const
                   static_cast<std::streamsize>(bytes.size()));
     };
     write(std::span(positions_));
+    write(std::span(lines_));
     write(std::span(narrow_));
     if (narrow_.size() % 2 != 0) out.write("\0\0", 2);
     write(std::span(wide_));

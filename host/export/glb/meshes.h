@@ -11,13 +11,17 @@
 
 namespace tamur::host {
 
-enum class MeshMode : std::uint8_t { kLines = 1, kTriangles = 4 };
-
 class Meshes {
  public:
-    // Its place. Without corners the points are used in their order.
+    using Position = std::array<float, 3>;
+
+    // So many surfaces will follow, most of four corners.
+    void Expect(std::size_t surfaces);
+    // A body. Its place.
     std::uint32_t Add(const std::vector<Point>& points, const std::vector<std::uint32_t>& corners,
-                      MeshMode mode, int material);
+                      int material);
+    // Pairs of points, after all bodies.
+    std::uint32_t AddLines(std::vector<Position> points, int material);
 
     [[nodiscard]] bool IsEmpty() const { return meshes_.empty(); }
     // The members of a glTF document: meshes, accessors, bufferViews, buffers.
@@ -29,15 +33,18 @@ class Meshes {
     struct Mesh {
         std::uint32_t firstPosition, positionCount;
         std::uint32_t firstIndex, indexCount;
-        std::array<float, 3> low, high;
+        Position low, high;
         bool isWide;  // indices of 32 bits
-        MeshMode mode;
+        bool isLines;
         std::uint8_t material;
+
+        void Surround(const Position& position);
     };
+    [[nodiscard]] std::uint64_t PositionCount() const { return positions_.size() + lines_.size(); }
     void WriteAccessors(JsonWriter& out) const;
 
     std::vector<Mesh> meshes_;
-    std::vector<std::array<float, 3>> positions_;
+    std::vector<Position> positions_, lines_;
     std::vector<std::uint32_t> wide_;
     std::vector<std::uint16_t> narrow_;
 };

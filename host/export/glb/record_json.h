@@ -46,7 +46,7 @@ class RecordJson {
     {
         if constexpr (std::is_same_v<Value, BSTR>) {
             if (value == nullptr) return out_.Null();
-            out_.Text(ToUtf8(ViewOf(value)));
+            out_.Text(ViewOf(value));
         } else if constexpr (std::is_same_v<Value, double>) {
             out_.Number(value);
         } else if constexpr (std::is_class_v<Value>) {

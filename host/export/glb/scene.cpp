@@ -4,7 +4,7 @@
 
 namespace tamur::host {
 
-std::array<double, 4> QuaternionOf(const Frame& frame)
+std::array<float, 4> QuaternionOf(const Frame& frame)
 {
     // Columns of the matrix; whichever of the four is largest is found first, the others by it.
     const Point &x = frame.x, &y = frame.y, &z = frame.z;
@@ -20,8 +20,9 @@ std::array<double, 4> QuaternionOf(const Frame& frame)
         q = {x.z + z.x, y.z + z.y, 1 + z.z - x.x - y.y, x.y - y.x};
     }
     const double length = std::sqrt(q[0] * q[0] + q[1] * q[1] + q[2] * q[2] + q[3] * q[3]);
-    for (double& part : q) part /= length;
-    return q;
+    std::array<float, 4> normalized = {};
+    for (std::size_t i = 0; i < 4; ++i) normalized[i] = static_cast<float>(q[i] / length);
+    return normalized;
 }
 
 }  // namespace tamur::host

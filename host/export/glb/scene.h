@@ -1,9 +1,9 @@
 // The tree of a glTF scene: nodes as they are written, and the branches that they hang on.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <functional>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/export/glb/json_writer.h"
@@ -69,6 +69,6 @@ class Scene {
 };
 
 // The turn from the model's axes to those of the frame, as glTF has it: x, y, z, w.
-[[nodiscard]] std::array<double, 4> QuaternionOf(const Frame& frame);
+[[nodiscard]] std::array<float, 4> QuaternionOf(const Frame& frame);
 
 }  // namespace tamur::host

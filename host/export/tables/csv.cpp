@@ -25,12 +25,12 @@ class CsvTables : public TableWriter {
     {
     }
 
-    void Begin(std::string_view name, std::span<const Column> columns) override
+    void Begin(std::string_view name, std::span<const TableColumn> columns) override
     {
         Finish();
         file_.open(folder_ / PathOf(std::string(name) + ".csv"), std::ios::binary);
         BeginLine();
-        for (const Column& column : columns) AddText(HeadingOf(column));
+        for (const TableColumn& column : columns) AddText(HeadingOf(column));
         EndLine();
     }
 

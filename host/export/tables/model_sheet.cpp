@@ -15,8 +15,8 @@ class ModelSheet {
 
     void Write()
     {
-        const Column columns[] = {{"What", ""},  {"Of", ""},   {"Name", ""},
-                                  {"Value", ""}, {"Unit", ""}, {"Line", ""}};
+        const TableColumn columns[] = {{"What", ""},  {"Of", ""},   {"Name", ""},
+                                       {"Value", ""}, {"Unit", ""}, {"Line", ""}};
         writer_.Begin("Model", columns);
         WriteSettings();
         WriteCounts();

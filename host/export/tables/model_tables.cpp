@@ -12,7 +12,7 @@ namespace {
 
 // The place of a record in its table, from 1, comes before its fields: identifiers need not be
 // unique, and not every record has one.
-const Column kPlace = {"n", ""};
+const TableColumn kPlace = {"n", ""};
 
 // What bars and surfaces refer to, by its place in its table; 0 where there is none.
 std::int64_t PlaceOf(Index index)
@@ -21,7 +21,7 @@ std::int64_t PlaceOf(Index index)
 }
 
 template <class PublicRecord>
-void AddReferenceColumns(std::vector<Column>& columns)
+void AddReferenceColumns(std::vector<TableColumn>& columns)
 {
     if constexpr (std::is_same_v<PublicRecord, TMRFilaire>) {
         for (const char* name : {"StartSection.n", "EndSection.n", "StartConnection.n",
@@ -89,9 +89,9 @@ class RecordTables {
     }
 
     template <class PublicRecord>
-    static std::vector<Column> ColumnsOf(std::string_view table)
+    static std::vector<TableColumn> ColumnsOf(std::string_view table)
     {
-        std::vector<Column> columns = {kPlace};
+        std::vector<TableColumn> columns = {kPlace};
         PublicRecord empty = {};
         VisitFields(empty, ColumnsOfRow(table, columns));
         AddReferenceColumns<PublicRecord>(columns);
@@ -130,7 +130,7 @@ class RecordTables {
     void BeginList(const std::string& table, const char* name,
                    const std::vector<std::string_view>& names)
     {
-        std::vector<Column> columns = {kPlace};
+        std::vector<TableColumn> columns = {kPlace};
         if constexpr (kHasKey<PublicRecord>) {
             PublicRecord empty = {};
             WithKey(empty, [&columns](const char* key, auto&) { columns.push_back({key, ""}); });
@@ -183,7 +183,7 @@ class RecordTables {
         LONG count = 0;
         Check(accessor->GetNbMessages(&count), "GetNbMessages");
         if (count == 0) return;
-        writer_.Begin("Messages", std::vector<Column>{kPlace, {"Message", ""}});
+        writer_.Begin("Messages", std::vector<TableColumn>{kPlace, {"Message", ""}});
         for (LONG rank = 0; rank < count; ++rank) {
             BSTR text = nullptr;  // lent
             Check(accessor->GetMessageAtRank(rank, &text), "GetMessageAtRank");
@@ -210,7 +210,7 @@ std::size_t RecordCount(ITAMURStructureReader& reader)
 
 }  // namespace
 
-std::string HeadingOf(const Column& column)
+std::string HeadingOf(const TableColumn& column)
 {
     return column.unit.empty() ? column.name : column.name + " [" + std::string(column.unit) + ']';
 }

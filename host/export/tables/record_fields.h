@@ -82,7 +82,7 @@ class RowVisitor {
 
 class ColumnsOfRow : public RowVisitor<ColumnsOfRow> {
  public:
-    ColumnsOfRow(std::string_view table, std::vector<Column>& columns)
+    ColumnsOfRow(std::string_view table, std::vector<TableColumn>& columns)
         : table_(table), columns_(columns)
     {
     }
@@ -108,7 +108,7 @@ class ColumnsOfRow : public RowVisitor<ColumnsOfRow> {
 
  private:
     std::string_view table_;
-    std::vector<Column>& columns_;
+    std::vector<TableColumn>& columns_;
     std::string prefix_;
 };
 

@@ -9,13 +9,13 @@
 
 namespace tamur::host {
 
-struct Column {
+struct TableColumn {
     std::string name;
     std::string_view unit;  // empty for what has none
 };
 
 // "E [N/m2]".
-[[nodiscard]] std::string HeadingOf(const Column& column);
+[[nodiscard]] std::string HeadingOf(const TableColumn& column);
 
 // Empty, or a value. Texts are UTF-8 and may hold any character.
 struct Cell {
@@ -42,7 +42,7 @@ class TableWriter {
 
     // The rows up to the next Begin are of this table. No two have the same name, and a name is one
     // for a file: ASCII letters, digits and points.
-    virtual void Begin(std::string_view name, std::span<const Column> columns) = 0;
+    virtual void Begin(std::string_view name, std::span<const TableColumn> columns) = 0;
     virtual void Row(std::span<const Cell> cells) = 0;
     // After the last table.
     virtual void End() = 0;

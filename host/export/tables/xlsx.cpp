@@ -23,11 +23,11 @@ XlsxTables::XlsxTables(const std::filesystem::path& path, Losses& losses, std::s
 {
 }
 
-void XlsxTables::Begin(std::string_view name, std::span<const Column> columns)
+void XlsxTables::Begin(std::string_view name, std::span<const TableColumn> columns)
 {
     name_ = name;
     headings_.clear();
-    for (const Column& column : columns) headings_.push_back(HeadingOf(column));
+    for (const TableColumn& column : columns) headings_.push_back(HeadingOf(column));
     sheetOfTable_ = 1;
     AddSheet();
 }
@@ -35,17 +35,17 @@ void XlsxTables::Begin(std::string_view name, std::span<const Column> columns)
 void XlsxTables::AddSheet()
 {
     const std::string number = sheetOfTable_ == 1 ? "" : " (" + std::to_string(sheetOfTable_) + ")";
-    book_.AddSheet(name_.substr(0, kLongestSheetName - number.size()) + number, headings_);
+    sheet_ = book_.AddSheet(name_.substr(0, kLongestSheetName - number.size()) + number, headings_);
 }
 
 void XlsxTables::Row(std::span<const Cell> cells)
 {
-    if (book_.RowCount() == mostRows_) {
+    if (book_.RowCount(sheet_) == mostRows_) {
         ++sheetOfTable_;
         AddSheet();
         losses_.Add(Kind::kNone, kContinued);
     }
-    book_.AddRow(cells);
+    book_.AddRow(sheet_, cells);
 }
 
 void WriteXlsx(const Source& source, const std::filesystem::path& path, Output& output,

@@ -15,7 +15,7 @@ class XlsxTables : public TableWriter {
  public:
     XlsxTables(const std::filesystem::path& path, Losses& losses, std::size_t mostRows);
 
-    void Begin(std::string_view name, std::span<const Column> columns) override;
+    void Begin(std::string_view name, std::span<const TableColumn> columns) override;
     void Row(std::span<const Cell> cells) override;
     void End() override { book_.Close(); }
 
@@ -28,6 +28,7 @@ class XlsxTables : public TableWriter {
     std::string name_;
     std::vector<std::string> headings_;
     std::size_t sheetOfTable_ = 1;
+    Workbook::Sheet sheet_ = 0;
 };
 
 }  // namespace tamur::host

@@ -3,6 +3,7 @@
 #include <tamur/ranges.h>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -14,12 +15,10 @@
 namespace tamur::host {
 namespace {
 
-using Ints = std::vector<std::int32_t>;
-using Bytes = std::vector<std::uint8_t>;
-using Numbers = std::vector<double>;
-
 // A file for each is of use up to here; beyond it all loads are in one part.
 constexpr std::size_t kMostCases = 1000;
+
+using Vector = std::array<double, 3>;
 
 // Places in tables are counted from 1 in files; 0 is none.
 std::int32_t PlaceOf(Index index)
@@ -27,38 +26,30 @@ std::int32_t PlaceOf(Index index)
     return index == kNone ? 0 : static_cast<std::int32_t>(index + 1);
 }
 
-// A part of elements, and the arrays that every part has.
-struct Cells {
-    Cells(std::string name, const VtkPoints& points)
-    {
-        part.name = std::move(name);
-        part.firstOwnPoint = points.All().size();
-    }
-    void Add(const Element& element, VtkCell cell, std::initializer_list<std::uint32_t> at)
-    {
-        part.cells.push_back(cell);
-        part.corners.insert(part.corners.end(), at);
-        kind.push_back(static_cast<std::uint8_t>(ElementNumberOf(element.kind)));
-        identifier.push_back(static_cast<std::uint32_t>(element.identifier));
-        rank.push_back(element.rank + 1);
-    }
+template <class Type>
+std::uint8_t NumberOf(Type type)
+{
+    return static_cast<std::uint8_t>(type);
+}
 
-    VtkPart part;
-    Bytes& kind = AddArray<std::uint8_t>(part.cellArrays, "Kind");
-    std::vector<std::uint32_t>& identifier = AddArray<std::uint32_t>(part.cellArrays, "Identifier");
-    std::vector<std::uint32_t>& rank = AddArray<std::uint32_t>(part.cellArrays, "Rank");
+// The axes that the forces of a load follow.
+Frame AxesOf(const Structure& structure, const Load& load)
+{
+    if (load.frame != TMR_FORCE_LOCAL || load.kind == Kind::kPointLoad) return {};
+    if (load.kind == Kind::kLineLoad) {
+        return FrameOfLoad(load.frame, FrameOfAxis(structure.SegmentOf(load)));
+    }
+    return FrameOfLoad(load.frame, FrameOfPolygon(OutlineOf(structure, load)));
+}
 
-    template <class Value>
-    std::vector<Value>& Array(std::string_view name, std::size_t components = 1)
-    {
-        return AddArray<Value>(part.cellArrays, name, components);
-    }
-    template <class Value>
-    std::vector<Value>& PointArray(std::string_view name, std::size_t components = 1)
-    {
-        return AddArray<Value>(part.pointArrays, name, components);
-    }
-};
+// Of all that it acts on, three of its six values; the others turn.
+Vector ResultantOf(const Structure& structure, const Load& load, std::size_t first)
+{
+    const auto& v = load.values;
+    const Point local = {v[first], v[first + 1], v[first + 2]};
+    const Point sum = AxesOf(structure, load).ToGlobal(local) * (load.intensity * load.size);
+    return {sum.x, sum.y, sum.z};
+}
 
 class Parts {
  public:
@@ -75,13 +66,8 @@ class Parts {
         MakeSurfaces();
         MakeWalls();
         MakeOpenings();
-        MakeLines(structure_.cables, "cables", [this](Cells& cells) {
-            return [this, &values = cells.Array<std::int32_t>("LoadCase")](const Element& cable) {
-                const auto place = static_cast<std::size_t>(&cable - structure_.cables.data());
-                values.push_back(structure_.cableCases[place]);
-            };
-        });
-        MakeLines(structure_.innerLines, "inner lines");
+        MakeCables();
+        MakeInnerLines();
         MakeFreeLines<TMRSurfacicSection>(Kind::kSurfaceSection, "cuts");
         MakeFreeLines<TMRLine>(Kind::kConstructionLine, "construction lines");
         MakeSupports();
@@ -91,7 +77,41 @@ class Parts {
     }
 
  private:
-    // Whether it can be drawn; otherwise that is said, unless it was not asked for.
+    // A part, and the arrays that every part has. `of` gives its elements by their index.
+    template <class Of>
+    VtkPart Begin(std::string name, const Of& of) const
+    {
+        VtkPart part;
+        part.name = std::move(name);
+        part.firstOwnPoint = points_.All().size();
+        part.cellArrays = {
+            MakeArray("Kind", [of](Index i) { return NumberOf(ElementNumberOf(of(i).kind)); }),
+            MakeArray("Identifier",
+                      [of](Index i) { return static_cast<std::uint32_t>(of(i).identifier); }),
+            MakeArray("Rank", [of](Index i) { return of(i).rank + 1; }),
+        };
+        return part;
+    }
+    template <class Elements>
+    VtkPart BeginOf(std::string name, const Elements& elements) const
+    {
+        return Begin(std::move(name),
+                     [&elements](Index i) -> const Element& { return elements[i]; });
+    }
+    void Hand(VtkPart& part)
+    {
+        if (!part.cells.empty()) use_(std::move(part));
+    }
+
+    // Calls use(element, index) for each that can be drawn. What cannot is said, unless it was not
+    // asked for.
+    template <class Elements, class Use>
+    void ForEach(const Elements& elements, const Use& use)
+    {
+        for (Index i = 0; i < elements.size(); ++i) {
+            if (IsIn(elements[i])) use(elements[i], i);
+        }
+    }
     bool IsIn(const Element& element)
     {
         if (!source_.selection.Takes(element.kind, element.rank)) return false;
@@ -99,54 +119,21 @@ class Parts {
         if (!element.isUsable) report_.losses.Add(element.kind, kAbsurdCoordinates);
         return element.isUsable;
     }
+
     std::uint32_t Corner(const Element& element, std::size_t place)
     {
         return points_.Use(structure_.CornersOf(element)[place]);
     }
-    void Hand(Cells& cells)
+    void AddPoint(VtkPart& part, const Element& element, Index index)
     {
-        if (!cells.part.cells.empty()) use_(std::move(cells.part));
+        part.Add(index, VtkCell::kVertex, {Corner(element, 0)});
     }
-
-    void MakeNodes()
+    void AddLine(VtkPart& part, const Element& element, Index index)
     {
-        Cells cells("nodes", points_);
-        for (const Element& node : structure_.nodes) {
-            if (IsIn(node)) cells.Add(node, VtkCell::kVertex, {Corner(node, 0)});
-        }
-        Hand(cells);
+        part.Add(index, VtkCell::kLine, {Corner(element, 0), Corner(element, 1)});
     }
-
-    void MakeBars()
-    {
-        Cells cells("bars", points_);
-        Ints& group = cells.Array<std::int32_t>("Group");
-        Bytes& type = cells.Array<std::uint8_t>("Type");
-        Ints& startSection = cells.Array<std::int32_t>("Section");
-        Ints& endSection = cells.Array<std::int32_t>("EndSection");
-        Ints& material = cells.Array<std::int32_t>("Material");
-        Numbers& angle = cells.Array<double>("Angle");
-        Bytes& startRelease = cells.Array<std::uint8_t>("StartRelease");
-        Bytes& endRelease = cells.Array<std::uint8_t>("EndRelease");
-        for (const Bar& bar : structure_.bars) {
-            if (!IsIn(bar)) continue;
-            cells.Add(bar, VtkCell::kLine, {points_.Use(bar.start), points_.Use(bar.end)});
-            group.push_back(bar.group);
-            type.push_back(static_cast<std::uint8_t>(bar.type));
-            startSection.push_back(PlaceOf(bar.startSection));
-            endSection.push_back(PlaceOf(bar.endSection));
-            material.push_back(PlaceOf(bar.material));
-            angle.push_back(bar.angle);
-            startRelease.push_back(bar.releasedAtStart);
-            endRelease.push_back(bar.releasedAtEnd);
-        }
-        Hand(cells);
-    }
-
-    // Calls use() for each triangle of a polygon.
-    template <class Use>
-    void AddTriangles(Cells& cells, const Element& polygon,
-                      const std::optional<SurfaceCutter::Cut>& cut, const Use& use)
+    void AddTriangles(VtkPart& part, const Element& polygon, Index index,
+                      const std::optional<SurfaceCutter::Cut>& cut)
     {
         if (const LossText* loss = LossOf(cut)) report_.losses.Add(polygon.kind, *loss);
         if (!cut) return;
@@ -161,95 +148,119 @@ class Parts {
             return corner < shared ? points_.Use(cut->places[corner]) : added_[corner - shared];
         };
         for (std::size_t i = 0; i < cut->triangles.corners.size(); i += 3) {
-            cells.Add(polygon, VtkCell::kTriangle, {at(i), at(i + 1), at(i + 2)});
-            use();
+            part.Add(index, VtkCell::kTriangle, {at(i), at(i + 1), at(i + 2)});
         }
+    }
+
+    void MakeNodes()
+    {
+        VtkPart part = BeginOf("nodes", structure_.nodes);
+        ForEach(structure_.nodes, [&](const Element& node, Index i) { AddPoint(part, node, i); });
+        Hand(part);
+    }
+
+    void MakeBars()
+    {
+        const auto& bars = structure_.bars;
+        VtkPart part = BeginOf("bars", bars);
+        const auto add = [&](std::string_view name, const auto& get) {
+            part.cellArrays.push_back(
+                MakeArray(name, [&bars, get](Index i) { return get(bars[i]); }));
+        };
+        add("Group", [](const Bar& bar) { return bar.group; });
+        add("Type", [](const Bar& bar) { return NumberOf(bar.type); });
+        add("Section", [](const Bar& bar) { return PlaceOf(bar.startSection); });
+        add("EndSection", [](const Bar& bar) { return PlaceOf(bar.endSection); });
+        add("Material", [](const Bar& bar) { return PlaceOf(bar.material); });
+        add("Angle", [](const Bar& bar) { return bar.angle; });
+        add("StartRelease", [](const Bar& bar) { return bar.releasedAtStart; });
+        add("EndRelease", [](const Bar& bar) { return bar.releasedAtEnd; });
+        ForEach(bars, [&](const Bar& bar, Index i) { AddLine(part, bar, i); });
+        Hand(part);
     }
 
     void MakeSurfaces()
     {
-        Cells cells("surfaces", points_);
-        Ints& group = cells.Array<std::int32_t>("Group");
-        Bytes& type = cells.Array<std::uint8_t>("Type");
-        Ints& material = cells.Array<std::int32_t>("Material");
-        Numbers& thickness = cells.Array<double>("Thickness");
-        for (Index i = 0; i < structure_.surfaces.size(); ++i) {
-            const Surface& surface = structure_.surfaces[i];
-            if (!IsIn(surface)) continue;
-            AddTriangles(cells, surface, cutter_.Surface(i), [&] {
-                group.push_back(surface.group);
-                type.push_back(static_cast<std::uint8_t>(surface.type));
-                material.push_back(PlaceOf(surface.material));
-                thickness.push_back(surface.thickness);
-            });
-        }
-        Hand(cells);
+        const auto& surfaces = structure_.surfaces;
+        VtkPart part = BeginOf("surfaces", surfaces);
+        const auto add = [&](std::string_view name, const auto& get) {
+            part.cellArrays.push_back(
+                MakeArray(name, [&surfaces, get](Index i) { return get(surfaces[i]); }));
+        };
+        add("Group", [](const Surface& surface) { return surface.group; });
+        add("Type", [](const Surface& surface) { return NumberOf(surface.type); });
+        add("Material", [](const Surface& surface) { return PlaceOf(surface.material); });
+        add("Thickness", [](const Surface& surface) { return surface.thickness; });
+        ForEach(surfaces, [&](const Surface& surface, Index i) {
+            AddTriangles(part, surface, i, cutter_.Surface(i));
+        });
+        Hand(part);
     }
 
     void MakeWalls()
     {
-        Cells cells("walls", points_);
-        for (const Surface& wall : structure_.walls) {
-            if (IsIn(wall)) AddTriangles(cells, wall, cutter_.Polygon(wall), [] {});
-        }
-        Hand(cells);
+        VtkPart part = BeginOf("walls", structure_.walls);
+        ForEach(structure_.walls, [&](const Surface& wall, Index i) {
+            AddTriangles(part, wall, i, cutter_.Polygon(wall));
+        });
+        Hand(part);
     }
 
     // Their outlines; `Surface` is the place of the surface that they are cut out of.
     void MakeOpenings()
     {
-        Cells cells("openings", points_);
-        Ints& of = cells.Array<std::int32_t>("Surface");
-        for (const Surface& opening : structure_.openings) {
-            if (!IsIn(opening)) continue;
+        const auto& openings = structure_.openings;
+        VtkPart part = BeginOf("openings", openings);
+        part.cellArrays.push_back(
+            MakeArray("Surface", [&openings](Index i) { return PlaceOf(openings[i].surface); }));
+        ForEach(openings, [&](const Surface& opening, Index index) {
             const std::size_t count = opening.cornerCount;
             for (std::size_t i = 0; i < count; ++i) {
-                cells.Add(opening, VtkCell::kLine,
-                          {Corner(opening, i), Corner(opening, i + 1 < count ? i + 1 : 0)});
-                of.push_back(PlaceOf(opening.surface));
+                part.Add(index, VtkCell::kLine,
+                         {Corner(opening, i), Corner(opening, i + 1 < count ? i + 1 : 0)});
             }
             if (opening.surface == kNone) report_.losses.Add(Kind::kOpening, kOpensNothing);
-        }
-        Hand(cells);
+        });
+        Hand(part);
     }
 
-    void MakeLines(const std::vector<Element>& lines, const char* name)
+    void MakeCables()
     {
-        MakeLines(lines, name, [](Cells&) { return [](const Element&) {}; });
+        VtkPart part = BeginOf("cables", structure_.cables);
+        const auto& cases = structure_.cableCases;
+        part.cellArrays.push_back(MakeArray("LoadCase", [&cases](Index i) { return cases[i]; }));
+        ForEach(structure_.cables, [&](const Element& line, Index i) { AddLine(part, line, i); });
+        Hand(part);
     }
-    template <class MakeArrays>
-    void MakeLines(const std::vector<Element>& lines, const char* name,
-                   const MakeArrays& makeArrays)
+
+    void MakeInnerLines()
     {
-        Cells cells(name, points_);
-        const auto add = makeArrays(cells);
-        for (const Element& line : lines) {
-            if (!IsIn(line)) continue;
-            cells.Add(line, VtkCell::kLine, {Corner(line, 0), Corner(line, 1)});
-            add(line);
-        }
-        Hand(cells);
+        VtkPart part = BeginOf("inner lines", structure_.innerLines);
+        ForEach(structure_.innerLines,
+                [&](const Element& line, Index i) { AddLine(part, line, i); });
+        Hand(part);
     }
 
     // Lines that nothing meets: the structure has not their points.
     template <class PublicRecord>
     void MakeFreeLines(Kind kind, const char* name)
     {
-        Cells cells(name, points_);
-        Element line;
-        line.kind = kind;
+        const auto lines = std::make_shared<std::vector<Element>>();
+        VtkPart part = Begin(name, [lines](Index i) -> const Element& { return (*lines)[i]; });
         for (const auto& record : Records<PublicRecord>(source_.reader)) {
             const TMR3DPnt &from = record->Geometrie.start, &to = record->Geometrie.end;
             const Point start = {from.x, from.y, from.z}, end = {to.x, to.y, to.z};
+            const auto rank = static_cast<Index>(lines->size());
+            Element& line = lines->emplace_back();
+            line.kind = kind;
+            line.rank = rank;
             line.identifier = static_cast<std::uint32_t>(record->identifier);
             line.isUsable = IsSensible(start) && IsSensible(end);
-            if (IsIn(line)) {
-                const std::uint32_t first = points_.Add(start);
-                cells.Add(line, VtkCell::kLine, {first, points_.Add(end)});
-            }
-            ++line.rank;
+            if (!IsIn(line)) continue;
+            const std::uint32_t first = points_.Add(start);
+            part.Add(rank, VtkCell::kLine, {first, points_.Add(end)});
         }
-        Hand(cells);
+        Hand(part);
     }
 
     void MakeSupports()
@@ -259,65 +270,61 @@ class Parts {
             {Kind::kLineSupport, "line supports"},
             {Kind::kSurfaceSupport, "surface supports"},
         };
+        const auto& supports = structure_.supports;
         for (const auto& [kind, name] : kKinds) {
-            Cells cells(name, points_);
-            Ints& group = cells.Array<std::int32_t>("Group");
-            Bytes& condition = cells.Array<std::uint8_t>("Condition");
-            Numbers& angle = cells.Array<double>("Angle");
-            Numbers& stiffness = cells.Array<double>("Stiffness", 6);
-            for (const Support& support : structure_.supports) {
-                if (support.kind != kind || !IsIn(support)) continue;
-                const auto add = [&] {
-                    group.push_back(support.group);
-                    condition.push_back(static_cast<std::uint8_t>(support.condition));
-                    angle.push_back(support.angle);
-                    stiffness.insert(stiffness.end(), support.stiffness.begin(),
-                                     support.stiffness.end());
-                };
-                AddSupport(cells, support, add);
+            VtkPart part = BeginOf(name, supports);
+            const auto add = [&](std::string_view array, const auto& get) {
+                part.cellArrays.push_back(
+                    MakeArray(array, [&supports, get](Index i) { return get(supports[i]); }));
+            };
+            add("Group", [](const Support& support) { return support.group; });
+            add("Condition", [](const Support& support) { return NumberOf(support.condition); });
+            add("Angle", [](const Support& support) { return support.angle; });
+            add("Stiffness", [](const Support& support) { return support.stiffness; });
+            for (Index i = 0; i < supports.size(); ++i) {
+                if (supports[i].kind == kind && IsIn(supports[i])) AddSupport(part, supports[i], i);
             }
-            Hand(cells);
+            Hand(part);
         }
     }
-
-    template <class Use>
-    void AddSupport(Cells& cells, const Support& support, const Use& use)
+    void AddSupport(VtkPart& part, const Support& support, Index index)
     {
-        if (support.kind == Kind::kSurfaceSupport) {
-            return AddTriangles(cells, support, cutter_.Polygon(support), use);
-        }
-        if (support.kind == Kind::kPointSupport) {
-            cells.Add(support, VtkCell::kVertex, {Corner(support, 0)});
-        } else {
-            cells.Add(support, VtkCell::kLine, {Corner(support, 0), Corner(support, 1)});
-        }
-        use();
+        if (support.kind == Kind::kPointSupport) return AddPoint(part, support, index);
+        if (support.kind == Kind::kLineSupport) return AddLine(part, support, index);
+        AddTriangles(part, support, index, cutter_.Polygon(support));
     }
 
     // Six values in a point: three along the axes, three about them.
     void MakePointValues(const std::vector<Load>& loads, const char* name, const char* along,
                          const char* about)
     {
-        Cells cells(name, points_);
-        Numbers& first = cells.PointArray<double>(along, 3);
-        Numbers& second = cells.PointArray<double>(about, 3);
-        for (const Load& load : loads) {
-            if (!IsIn(load)) continue;
+        VtkPart part = BeginOf(name, loads);
+        const auto add = [&](const char* array, std::size_t first) {
+            part.pointArrays.push_back(MakeArray(array, [&loads, first](Index i) {
+                const auto& values = loads[i].values;
+                return Vector{values[first], values[first + 1], values[first + 2]};
+            }));
+        };
+        add(along, 0);
+        add(about, 3);
+        ForEach(loads, [&](const Load& load, Index i) {
             const Index corner = structure_.CornersOf(load)[0];
-            cells.Add(load, VtkCell::kVertex, {points_.Add(structure_.points[corner])});
-            first.insert(first.end(), load.values.begin(), load.values.begin() + 3);
-            second.insert(second.end(), load.values.begin() + 3, load.values.end());
-        }
-        Hand(cells);
+            part.Add(i, VtkCell::kVertex, {points_.Add(structure_.points[corner])});
+        });
+        Hand(part);
     }
 
     void MakeLoads()
     {
-        std::map<int, std::vector<const Load*>> cases;
-        for (const Load& load : structure_.loads) cases[load.loadCase].push_back(&load);
+        std::map<int, std::vector<Index>> cases;
+        for (Index i = 0; i < structure_.loads.size(); ++i) {
+            cases[structure_.loads[i].loadCase].push_back(i);
+        }
         if (cases.size() > kMostCases) {
-            std::vector<const Load*> all;
-            for (const Load& load : structure_.loads) all.push_back(&load);
+            std::vector<Index> all;
+            for (const auto& [number, loads] : cases) {
+                all.insert(all.end(), loads.begin(), loads.end());
+            }
             return MakeLoadsOf("loads", all);
         }
         for (const auto& [number, loads] : cases) {
@@ -330,51 +337,42 @@ class Parts {
         }
     }
 
-    void MakeLoadsOf(std::string name, const std::vector<const Load*>& loads)
+    void MakeLoadsOf(std::string name, const std::vector<Index>& indices)
     {
-        Cells cells(std::move(name), points_);
-        Ints& loadCase = cells.Array<std::int32_t>("LoadCase");
-        Ints& frame = cells.Array<std::int32_t>("Frame");
-        Numbers& size = cells.Array<double>("Size");
-        Numbers& force = cells.PointArray<double>("Force", 3);
-        Numbers& moment = cells.PointArray<double>("Moment", 3);
-        for (const Load* load : loads) {
-            if (!IsIn(*load)) continue;
-            const auto [place, axes] = SpotOf(*load);
-            cells.Add(*load, VtkCell::kVertex, {points_.Add(place)});
-            loadCase.push_back(load->loadCase);
-            frame.push_back(load->frame);
-            size.push_back(load->size);
-            const auto& v = load->values;
-            const double factor = load->intensity * load->size;
-            const Point f = axes.ToGlobal({v[0], v[1], v[2]}) * factor;
-            const Point m = axes.ToGlobal({v[3], v[4], v[5]}) * factor;
-            force.insert(force.end(), {f.x, f.y, f.z});
-            moment.insert(moment.end(), {m.x, m.y, m.z});
+        const Structure& structure = structure_;
+        const auto& loads = structure.loads;
+        VtkPart part = BeginOf(std::move(name), loads);
+        const auto add = [&](auto& arrays, std::string_view array, const auto& get) {
+            arrays.push_back(MakeArray(array, [&loads, get](Index i) { return get(loads[i]); }));
+        };
+        add(part.cellArrays, "LoadCase", [](const Load& load) { return load.loadCase; });
+        add(part.cellArrays, "Frame", [](const Load& load) { return load.frame; });
+        add(part.cellArrays, "Size", [](const Load& load) { return load.size; });
+        add(part.pointArrays, "Force",
+            [&structure](const Load& load) { return ResultantOf(structure, load, 0); });
+        add(part.pointArrays, "Moment",
+            [&structure](const Load& load) { return ResultantOf(structure, load, 3); });
+        for (const Index i : indices) {
+            if (!IsIn(loads[i])) continue;
+            if (loads[i].cornerCount == 0) {
+                report_.losses.Add(loads[i].kind, kWithoutArea);
+                continue;
+            }
+            if (loads[i].kind == Kind::kPointLoad && loads[i].frame == TMR_FORCE_LOCAL) {
+                report_.losses.Add(Kind::kPointLoad, kLocalAsGlobal);
+            }
+            part.Add(i, VtkCell::kVertex, {points_.Add(MiddleOf(loads[i]))});
         }
-        Hand(cells);
+        Hand(part);
     }
 
-    // Where the resultant of a load is, and in which frame.
-    std::pair<Point, Frame> SpotOf(const Load& load)
+    Point MiddleOf(const Load& load)
     {
+        if (load.kind == Kind::kLineLoad) return structure_.SegmentOf(load).At(0.5);
         GetOutline(structure_, load, outline_);
-        if (outline_.empty()) return {};
-        std::optional<Frame> local;
-        Point place = outline_[0];
-        if (load.kind == Kind::kLineLoad) {
-            const Segment line = structure_.SegmentOf(load);
-            local = FrameOfAxis(line);
-            place = line.At(0.5);
-        } else if (load.kind == Kind::kSurfaceLoad) {
-            local = FrameOfPolygon(outline_);
-            place = Polygon(outline_).Centroid();
-            // Of hardly any area it may be anywhere.
-            if (!IsSensible(place)) place = outline_[0];
-        } else if (load.frame == TMR_FORCE_LOCAL) {
-            report_.losses.Add(load.kind, kLocalAsGlobal);
-        }
-        return {place, FrameOfLoad(load.frame, local)};
+        const Point centroid = Polygon(outline_).Centroid();
+        // Of hardly any area it may be anywhere.
+        return IsSensible(centroid) ? centroid : outline_[0];
     }
 
     const Structure& structure_;

@@ -1,5 +1,6 @@
 #include "host/export/vtk/vtu_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <limits>
@@ -13,62 +14,26 @@
 namespace tamur::host {
 namespace {
 
-const char* TypeOf(const std::vector<std::uint8_t>&)
+// The arrays of the whole grid: parts have some of them.
+std::vector<const VtkArray*> ArraysOf(std::span<const VtkPart> parts,
+                                      std::vector<VtkArray> VtkPart::*arraysOfPart)
 {
-    return "UInt8";
-}
-const char* TypeOf(const std::vector<std::int32_t>&)
-{
-    return "Int32";
-}
-const char* TypeOf(const std::vector<std::uint32_t>&)
-{
-    return "UInt32";
-}
-const char* TypeOf(const std::vector<double>&)
-{
-    return "Float64";
-}
-
-// An array of the whole grid; parts have some of its values.
-struct Wanted {
-    std::string_view name;
-    const char* type = nullptr;
-    std::size_t components = 1;
-    std::size_t valueSize = 0;
-};
-
-std::vector<Wanted> ArraysOf(std::span<const VtkPart> parts,
-                             std::deque<VtkArray> VtkPart::*arraysOfPart)
-{
-    std::vector<Wanted> arrays;
+    std::vector<const VtkArray*> arrays;
     for (const VtkPart& part : parts) {
         for (const VtkArray& array : part.*arraysOfPart) {
-            const auto isSame = [&](const Wanted& other) { return other.name == array.name; };
-            if (std::any_of(arrays.begin(), arrays.end(), isSame)) continue;
-            std::visit(
-                [&](const auto& values) {
-                    arrays.push_back(
-                        {array.name, TypeOf(values), array.components, sizeof values[0]});
-                },
-                array.values);
+            const auto isSame = [&](const VtkArray* other) { return other->name == array.name; };
+            if (std::none_of(arrays.begin(), arrays.end(), isSame)) arrays.push_back(&array);
         }
     }
     return arrays;
 }
 
-const VtkArray* Find(const std::deque<VtkArray>& arrays, std::string_view name)
+const VtkArray* Find(const std::vector<VtkArray>& arrays, std::string_view name)
 {
     for (const VtkArray& array : arrays) {
         if (array.name == name) return &array;
     }
     return nullptr;
-}
-
-std::span<const std::byte> BytesOf(const VtkArray& array)
-{
-    return std::visit([](const auto& values) { return std::as_bytes(std::span(values)); },
-                      array.values);
 }
 
 class VtuFile {
@@ -131,9 +96,10 @@ class VtuFile {
         pugi::xml_node piece = file.append_child("UnstructuredGrid").append_child("Piece");
         piece.append_attribute("NumberOfPoints") = points_.size();
         piece.append_attribute("NumberOfCells") = cells_;
-        const auto declareAll = [this](pugi::xml_node node, const std::vector<Wanted>& arrays) {
-            for (const Wanted& array : arrays) {
-                Declare(node, array.name, array.type, array.components);
+        const auto declareAll = [this](pugi::xml_node node,
+                                       const std::vector<const VtkArray*>& arrays) {
+            for (const VtkArray* array : arrays) {
+                Declare(node, array->name, array->type, array->components);
             }
         };
         declareAll(piece.append_child("PointData"), pointArrays_);
@@ -168,8 +134,8 @@ class VtuFile {
     void WriteArrays()
     {
         begin_ = out_.tellp();
-        for (const Wanted& array : pointArrays_) WritePointArray(array);
-        for (const Wanted& array : cellArrays_) WriteCellArray(array);
+        for (const VtkArray* array : pointArrays_) WritePointArray(*array);
+        for (const VtkArray* array : cellArrays_) WriteCellArray(*array);
         static_assert(sizeof(Point) == 3 * sizeof(double));
         WriteArray(points_.size() * sizeof(Point),
                    [this](auto& out) { out.Write(std::as_bytes(std::span(points_))); });
@@ -194,7 +160,7 @@ class VtuFile {
         array.End(begin_, 1);
     }
 
-    void WritePointArray(const Wanted& wanted)
+    void WritePointArray(const VtkArray& wanted)
     {
         const std::size_t size = wanted.components * wanted.valueSize;
         WriteArray(points_.size() * size, [&](CompressedArray& out) {
@@ -203,21 +169,21 @@ class VtuFile {
                 const VtkArray* const array = Find(part.pointArrays, wanted.name);
                 if (array == nullptr) continue;
                 out.WriteZeros((part.firstOwnPoint - done) * size);
-                out.Write(BytesOf(*array));
-                done = part.firstOwnPoint + BytesOf(*array).size() / size;
+                array->write(part, [&out](auto bytes) { out.Write(bytes); });
+                done = part.firstOwnPoint + part.elements.size();
             }
             out.WriteZeros((points_.size() - done) * size);
         });
     }
 
-    void WriteCellArray(const Wanted& wanted)
+    void WriteCellArray(const VtkArray& wanted)
     {
         const std::size_t size = wanted.components * wanted.valueSize;
         WriteArray(cells_ * size, [&](CompressedArray& out) {
             for (const VtkPart& part : parts_) {
                 const VtkArray* const array = Find(part.cellArrays, wanted.name);
                 if (array != nullptr) {
-                    out.Write(BytesOf(*array));
+                    array->write(part, [&out](auto bytes) { out.Write(bytes); });
                 } else {
                     out.WriteZeros(part.cells.size() * size);
                 }
@@ -247,8 +213,8 @@ class VtuFile {
     std::filesystem::path path_;
     std::ofstream out_;
     std::size_t cells_ = 0, corners_ = 0;
-    std::vector<Wanted> pointArrays_ = ArraysOf(parts_, &VtkPart::pointArrays);
-    std::vector<Wanted> cellArrays_ = ArraysOf(parts_, &VtkPart::cellArrays);
+    std::vector<const VtkArray*> pointArrays_ = ArraysOf(parts_, &VtkPart::pointArrays);
+    std::vector<const VtkArray*> cellArrays_ = ArraysOf(parts_, &VtkPart::cellArrays);
 
     pugi::xml_document document_;
     std::vector<pugi::xml_attribute> offsets_;  // of the arrays, in their order

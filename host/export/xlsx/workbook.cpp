@@ -79,75 +79,74 @@ Workbook::Workbook(const std::filesystem::path& path, Losses& losses)
 
 Workbook::~Workbook()
 {
-    if (book_ != nullptr) lxw_workbook_free(book_);
+    if (book_ == nullptr) return;
+    // What the library closes only when it writes the workbook.
+    for (const Written& written : sheets_) (void)std::fclose(written.sheet->optimize_tmpfile);
+    lxw_workbook_free(book_);
 }
 
-void Workbook::AddSheet(const std::string& name, std::span<const std::string> headings)
+Workbook::Sheet Workbook::AddSheet(const std::string& name, std::span<const std::string> headings)
 {
-    FinishSheet();
     lxw_worksheet* const sheet = workbook_add_worksheet(book_, name.c_str());
     if (sheet == nullptr) FailBySystem();  // it has no file for its rows
-    sheets_.push_back(sheet);
-    row_ = 0;
-    hasHeading_ = !headings.empty();
-    columnCount_ = headings.size();
-    if (!hasHeading_) return;
     for (std::size_t i = 0; i < headings.size(); ++i) {
         const double width = std::min(40.0, static_cast<double>(headings[i].size()) + 3);
         CheckLibrary(worksheet_set_column(sheet, ColumnAt(i), ColumnAt(i), width, nullptr));
         CheckLibrary(worksheet_write_string(sheet, 0, ColumnAt(i), headings[i].c_str(), heading_));
     }
-    worksheet_freeze_panes(sheet, 1, 0);
-    row_ = 1;
+    if (!headings.empty()) worksheet_freeze_panes(sheet, 1, 0);
+    sheets_.push_back({sheet, headings.empty() ? 0u : 1u, headings.size()});
+    return sheets_.size() - 1;
 }
 
-void Workbook::AddText(std::size_t column, const std::string& text)
+void Workbook::AddText(const Written& written, std::size_t column, const std::string& text)
 {
     const SheetText fit = SheetTextOf(text, kLongestText);
     if (fit.isReplaced) losses_.Add(Kind::kNone, kReplaced);
     if (fit.isCut) losses_.Add(Kind::kNone, kCut);
-    CheckLibrary(worksheet_write_string(sheets_.back(), static_cast<lxw_row_t>(row_),
+    CheckLibrary(worksheet_write_string(written.sheet, static_cast<lxw_row_t>(written.rows),
                                         ColumnAt(column), fit.text.c_str(), nullptr));
 }
 
-void Workbook::AddRow(std::span<const Cell> cells)
+void Workbook::AddNumber(const Written& written, std::size_t column, double number)
 {
-    const auto addNumber = [this](std::size_t column, double number) {
-        CheckLibrary(worksheet_write_number(sheets_.back(), static_cast<lxw_row_t>(row_),
-                                            ColumnAt(column), number, nullptr));
-    };
+    if (!(std::abs(number) <= kLargestNumber)) return AddText(written, column, TextOf(number));
+    CheckLibrary(worksheet_write_number(written.sheet, static_cast<lxw_row_t>(written.rows),
+                                        ColumnAt(column), number, nullptr));
+}
+
+void Workbook::AddRow(Sheet sheet, std::span<const Cell> cells)
+{
+    Written& written = sheets_[sheet];
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const Cell& cell = cells[i];
         switch (cell.type) {
             case Cell::Type::kEmpty: break;
-            case Cell::Type::kText: AddText(i, cell.text); break;
-            case Cell::Type::kWhole: addNumber(i, static_cast<double>(cell.whole)); break;
-            case Cell::Type::kNumber:
-                if (std::abs(cell.number) <= kLargestNumber) {
-                    addNumber(i, cell.number);
-                } else {
-                    AddText(i, TextOf(cell.number));
-                }
-                break;
+            case Cell::Type::kText: AddText(written, i, cell.text); break;
+            case Cell::Type::kWhole: AddNumber(written, i, static_cast<double>(cell.whole)); break;
+            case Cell::Type::kNumber: AddNumber(written, i, cell.number); break;
         }
     }
-    ++row_;
+    ++written.rows;
 }
 
-void Workbook::FinishSheet()
+void Workbook::AddFilters()
 {
-    if (sheets_.empty() || !hasHeading_ || row_ < 2) return;
-    CheckLibrary(worksheet_autofilter(sheets_.back(), 0, 0, static_cast<lxw_row_t>(row_ - 1),
-                                      ColumnAt(columnCount_ - 1)));
+    for (const Written& written : sheets_) {
+        if (written.columns == 0 || written.rows < 2) continue;
+        CheckLibrary(worksheet_autofilter(written.sheet, 0, 0,
+                                          static_cast<lxw_row_t>(written.rows - 1),
+                                          ColumnAt(written.columns - 1)));
+    }
 }
 
 // The library does not look whether its rows could be written: its files tell.
 std::vector<std::size_t> Workbook::WrittenSizes() const
 {
     std::vector<std::size_t> sizes;
-    for (lxw_worksheet* const sheet : sheets_) {
-        lxw_worksheet_write_single_row(sheet);
-        std::FILE* const rows = sheet->optimize_tmpfile;
+    for (const Written& written : sheets_) {
+        lxw_worksheet_write_single_row(written.sheet);
+        std::FILE* const rows = written.sheet->optimize_tmpfile;
         if (std::fflush(rows) != 0 || std::ferror(rows) != 0) FailBySystem();
         const long size = std::ftell(rows);
         sizes.push_back(size < 0 ? 0 : static_cast<std::size_t>(size));
@@ -157,7 +156,7 @@ std::vector<std::size_t> Workbook::WrittenSizes() const
 
 void Workbook::Close()
 {
-    FinishSheet();
+    AddFilters();
     const std::vector<std::size_t> sizes = WrittenSizes();
     const lxw_error error = workbook_close(std::exchange(book_, nullptr));
     if (error == LXW_ERROR_CREATING_TMPFILE || error == LXW_ERROR_ZIP_FILE_OPERATION) {

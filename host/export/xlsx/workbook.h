@@ -27,30 +27,36 @@ class Workbook {
     Workbook& operator=(const Workbook&) = delete;
     ~Workbook();
 
-    // The rows that follow are in it. A heading row stays in sight; none is made of no headings.
-    // The name is unique, and no longer than 31 characters. Throws OutputError.
-    void AddSheet(const std::string& name, std::span<const std::string> headings);
+    using Sheet = std::size_t;
+
+    // A heading row stays in sight; none is made of no headings. The name is unique, and no longer
+    // than 31 characters. Throws OutputError.
+    Sheet AddSheet(const std::string& name, std::span<const std::string> headings);
     // Texts are texts, whatever they look like, and so are numbers that are not finite. Characters
     // that no sheet can hold become U+FFFD, and what is too long is cut; both are losses.
-    void AddRow(std::span<const Cell> cells);
-    [[nodiscard]] std::size_t RowCount() const { return row_; }
+    void AddRow(Sheet sheet, std::span<const Cell> cells);
+    // Headings too.
+    [[nodiscard]] std::size_t RowCount(Sheet sheet) const { return sheets_[sheet].rows; }
 
     // Throws OutputError.
     void Close();
 
  private:
-    void AddText(std::size_t column, const std::string& text);
-    void FinishSheet();
+    struct Written {
+        lxw_worksheet* sheet;
+        std::size_t rows = 0, columns = 0;  // columns of the heading
+    };
+    void AddText(const Written& written, std::size_t column, const std::string& text);
+    void AddNumber(const Written& written, std::size_t column, double number);
+    void AddFilters();
     [[nodiscard]] std::vector<std::size_t> WrittenSizes() const;
 
     std::filesystem::path path_;
     Losses& losses_;
     std::string folder_;  // where the library keeps its rows; it does not copy the text
     lxw_workbook* book_ = nullptr;
-    std::vector<lxw_worksheet*> sheets_;
+    std::vector<Written> sheets_;
     lxw_format* heading_ = nullptr;
-    std::size_t row_ = 0, columnCount_ = 0;
-    bool hasHeading_ = false;
 };
 
 }  // namespace tamur::host

@@ -50,9 +50,6 @@ const host::Target& TargetOf(const Options& options)
                       NamesOfTargets()
                 : options.target + " is none of: " + NamesOfTargets());
     }
-    if (target->write == nullptr) {
-        throw std::runtime_error(std::string(target->name) + " is not in this build of tamur");
-    }
     return *target;
 }
 
@@ -98,8 +95,7 @@ std::string Footer()
     for (const host::Target& target : host::AllTargets()) {
         text += "  " + std::string(target.name) +
                 std::string(8 - std::min<std::size_t>(target.name.size(), 7), ' ') +
-                std::string(target.what.In(host::Language::kEnglish)) +
-                (target.write == nullptr ? " (not in this build)" : "") + '\n';
+                std::string(target.what.In(host::Language::kEnglish)) + '\n';
     }
     return text +
            "Exit codes: 0 written; 1 the file was not imported; 2 wrong usage, or the output "

@@ -5,8 +5,9 @@
 
 namespace tamur::tool {
 
-// While it lives, the first signal that would end the process (on Windows: Ctrl-C and what is like
-// it) stops the steps instead, so that nothing half-written stays. The second one ends the process.
+// From then on a limit on the sizes of files is an error of writing. While it lives, the first
+// signal that would end the process (on Windows: Ctrl-C and what is like it) stops the steps
+// instead, so that nothing half-written stays. The second one ends the process.
 class StopSignals {
  public:
     explicit StopSignals(host::Steps& steps);

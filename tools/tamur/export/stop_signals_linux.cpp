@@ -21,6 +21,7 @@ void Stop(int)
 StopSignals::StopSignals(host::Steps& steps)
 {
     g_steps = &steps;
+    (void)std::signal(SIGXFSZ, SIG_IGN);  // for good: files are closed at the very end too
     struct sigaction action = {};
     action.sa_handler = Stop;
     action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);

@@ -29,7 +29,8 @@ void WriteSummary(const host::Losses& losses, Language language, std::ostream& o
         type = loss.text->type;
         out << "  ";
         if (loss.kind != Kind::kNone) {
-            out << NounOf(loss.kind, language) << " (" << loss.count << "): ";
+            out << NounOf(loss.kind, language) << " (" << loss.count
+                << (language == Language::kFrench ? ") : " : "): ");
         }
         out << loss.text->why.In(language) << '\n';
     }
