@@ -24,7 +24,7 @@ function frame(count: number): string {
     return `${kHead}#Elements\n${lines.join('\n')}\n`;
 }
 
-test('250,000 bars are 3 MB at most, and seen within 3 s', async () => {
+test('250,000 bars are 3 MB at most, and seen within 3 s', async (t) => {
     const path = pageOf(modelFile('large', frame(250000)));
     assert.ok(statSync(path).size <= 3e6, `${statSync(path).size} bytes`);
     assert.ok(readFileSync(path, 'utf8').replace(/id="data">[^<]*/, '').length <= 8e5);
@@ -41,5 +41,6 @@ test('250,000 bars are 3 MB at most, and seen within 3 s', async () => {
         assert.equal((await page.evaluate(() => window.tamur.selected())).length, 1);
         await close();
     }
+    t.diagnostic(`${statSync(path).size} bytes, seen after ${Math.round(best)} ms`);
     assert.ok(best <= 3000, `${best} ms`);
 });

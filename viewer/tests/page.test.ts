@@ -400,6 +400,25 @@ for (const [name, options] of Object.entries({
     });
 }
 
+test('the page works inside of another one, as in a notebook', async () => {
+    const { page, close } = await open(pageOf(sample('portique')));
+    const html = readFileSync(pageOf(sample('hall')), 'utf8');
+    const outside = await page.context().newPage();
+    const troubles: string[] = [];
+    outside.on('pageerror', (error) => troubles.push(String(error)));
+    outside.on('console', (message) => message.type() === 'error' && troubles.push(message.text()));
+    await outside.setContent('<iframe id="inside" style="width: 900px; height: 600px"></iframe>');
+    await outside
+        .locator('#inside')
+        .evaluate((frame: HTMLIFrameElement, text) => (frame.srcdoc = text), html);
+    const inside = outside.frameLocator('#inside');
+    await inside.locator('#tab-loads').click();
+    await inside.locator('.case input[value="2"]').check();
+    await inside.getByText('Case 2 · Neige').waitFor();
+    assert.deepEqual(troubles, []);
+    await close();
+});
+
 test('without WebGL the tables remain', async () => {
     const { page, close } = await open(pageOf(sample('hall')), '', {
         script: () => {
