@@ -13,12 +13,24 @@ namespace {
 constexpr int kLevel = 7;
 constexpr std::size_t kPiece = 1u << 18;
 
+struct Deflater {
+    z_stream stream = {};
+
+    Deflater()
+    {
+        if (deflateInit(&stream, kLevel) != Z_OK) throw std::bad_alloc();
+    }
+    Deflater(const Deflater&) = delete;
+    Deflater& operator=(const Deflater&) = delete;
+    ~Deflater() { (void)deflateEnd(&stream); }
+};
+
 }  // namespace
 
 std::string Deflated(std::string_view bytes)
 {
-    z_stream stream = {};
-    if (deflateInit(&stream, kLevel) != Z_OK) throw std::bad_alloc();
+    Deflater deflater;
+    z_stream& stream = deflater.stream;
     std::string out, piece(kPiece, '\0');
     int result = Z_OK;
     while (result == Z_OK || result == Z_BUF_ERROR) {
@@ -34,7 +46,6 @@ std::string Deflated(std::string_view bytes)
         result = deflate(&stream, bytes.empty() ? Z_FINISH : Z_NO_FLUSH);
         out.append(piece, 0, piece.size() - stream.avail_out);
     }
-    (void)deflateEnd(&stream);
     return out;
 }
 

@@ -41,6 +41,8 @@ fs::path OutputOf(const Options& options, const Input& input)
 // A page that was made before may be made anew.
 bool IsPage(const fs::path& path)
 {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) return false;  // a pipe would wait for somebody
     std::string beginning(host::view::PageBeginning().size(), '\0');
     std::ifstream file(path, std::ios::binary);
     file.read(beginning.data(), static_cast<std::streamsize>(beginning.size()));
