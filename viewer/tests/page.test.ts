@@ -125,6 +125,50 @@ test(`a click on the middle of a bar selects it (seed ${seed})`, async () => {
     await close();
 });
 
+test('what is hidden, clipped or of another group is not hit', async () => {
+    const { page, close } = await open(pageOf(sample('portique')));
+    const hit = async (identifier: number): Promise<boolean> => {
+        await page.keyboard.press('Escape');
+        const [a, b] = await page.evaluate(
+            (one) => window.tamur.project('Filaires', one),
+            identifier,
+        );
+        await clickOnModel(page, 0.4 * a!.x + 0.6 * b!.x, 0.4 * a!.y + 0.6 * b!.y);
+        const selected = await page.evaluate(() => window.tamur.selected());
+        return selected[0]?.table === 'Filaires' && selected[0].identifier === identifier;
+    };
+    const dump = JSON.parse(run('dump', sample('portique'))) as {
+        Filaires: { identifier: number; GroupNumber: number; startPoint: { x: number } }[];
+    };
+    const [first] = dump.Filaires;
+    const other = dump.Filaires.find((one) => one.GroupNumber !== first!.GroupNumber)!;
+    const [one, two] = [first!.identifier, other.identifier];
+    assert.deepEqual([await hit(one), await hit(two)], [true, true]);
+    await page.keyboard.press('h');
+    assert.deepEqual([await hit(one), await hit(two)], [true, false]);
+    await page.keyboard.press('i');
+    await page.keyboard.press('a');
+    assert.deepEqual([await hit(two), await hit(one)], [true, true]);
+    // One is selected now.
+    await page.keyboard.press('i');
+    assert.deepEqual([await hit(one), await hit(two)], [true, false]);
+    await page.keyboard.press('a');
+    await page.locator('#panel-model select').selectOption('group');
+    const titles = await page.locator('.list .only').evaluateAll((all) => all.length);
+    assert.ok(titles >= 2);
+    await page.locator('[aria-label^="Show only"]').first().focus();
+    await page.keyboard.press('Enter');
+    assert.equal(Number(await hit(one)) + Number(await hit(two)), 1);
+    await page.keyboard.press('a');
+    await page.getByRole('button', { name: 'Clip' }).click();
+    await page.locator('.clip input').nth(5).fill('0'); // nothing above the lowest
+    assert.deepEqual([await hit(one), await hit(two)], [false, false]);
+    await page.getByRole('button', { name: 'Whole model' }).click();
+    await page.getByRole('button', { name: 'Clip' }).click();
+    assert.equal(await hit(one), true);
+    await close();
+});
+
 test('a case shows its loads and no others', async () => {
     const { page, close } = await open(pageOf(sample('batiment')));
     const dump = JSON.parse(run('dump', sample('batiment'))) as Record<
