@@ -6,16 +6,17 @@
 
 namespace tamur::host {
 
-Checked CheckFile(const std::string& utf8Path, Findings& findings)
+Checked CheckFile(const std::string& utf8Path, Findings& findings, Structure* kept)
 {
     Checked checked;
     checked.imported = ImportFile(utf8Path, findings);
     if (!checked.imported.reader) return checked;
-    const Structure structure = ReadStructure(*checked.imported.reader);
+    Structure structure = ReadStructure(*checked.imported.reader);
     const LoadCases cases = ReadLoadCases(*checked.imported.reader);
     CheckModel(structure, cases, checked.imported.lines, findings);
     checked.sums = SumsOf(structure, cases);
     for (const Section& section : structure.sections) checked.sections.push_back(section.name);
+    if (kept != nullptr) *kept = std::move(structure);
     return checked;
 }
 

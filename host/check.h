@@ -7,6 +7,7 @@
 
 #include "host/file/imported_file.h"
 #include "host/findings/findings.h"
+#include "host/structure/structure.h"
 #include "host/sums/sums.h"
 
 namespace tamur::host {
@@ -18,8 +19,9 @@ struct Checked {
     std::vector<std::string> sections;  // names, by the places that the sums have
 };
 
-// Imports the file, once, and adds what is found in the file and in its model. Throws
-// std::bad_alloc.
-[[nodiscard]] Checked CheckFile(const std::string& utf8Path, Findings& findings);
+// Imports the file, once, and adds what is found in the file and in its model. The structure of the
+// model goes to `kept`, if wanted. Throws std::bad_alloc.
+[[nodiscard]] Checked CheckFile(const std::string& utf8Path, Findings& findings,
+                                Structure* kept = nullptr);
 
 }  // namespace tamur::host

@@ -180,16 +180,16 @@ TEST(TrianglesOfASurface, EndEarlyForHostileOutlines)
 
 TEST(CentreOfADrawing, IsTheOriginUnlessTheModelIsFarFromIt)
 {
-    Centring near, far, empty;
-    near.Add({0, 0, 0});
-    near.Add({20, 10, 7});
-    EXPECT_EQ(near.Centre(), Point{});
+    Centring close, distant, empty;
+    close.Add({0, 0, 0});
+    close.Add({20, 10, 7});
+    EXPECT_EQ(close.Centre(), Point{});
     EXPECT_EQ(empty.Centre(), Point{});
-    far.Add({600000.25, 1200000, 100});
-    far.Add({600010, 1200005, 120});
-    far.Add({std::numeric_limits<double>::infinity(), 0, 0});
-    far.Add({0, std::nan(""), 0});
-    const Point centre = far.Centre();
+    distant.Add({600000.25, 1200000, 100});
+    distant.Add({600010, 1200005, 120});
+    distant.Add({std::numeric_limits<double>::infinity(), 0, 0});
+    distant.Add({0, std::nan(""), 0});
+    const Point centre = distant.Centre();
     EXPECT_EQ(centre, (Point{600005, 1200003, 110}));
     const auto relative = Centring::Relative({600000.25, 1200000, 100.125}, centre);
     EXPECT_EQ(relative[0], -4.75F);

@@ -18,6 +18,7 @@
 #include "import.h"
 #include "info.h"
 #include "input.h"
+#include "view/command.h"
 
 namespace tamur::tool {
 namespace {
@@ -85,6 +86,7 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
         ->add_flag("--pretty", options->isPretty, "one value per line");
     AddDiffCommand(app, options->component, task);
     AddExportCommand(app, task);
+    AddViewCommand(app, task);
 
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end

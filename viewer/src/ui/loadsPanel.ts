@@ -1,0 +1,288 @@
+// Load cases: one is shown at a time; combinations and envelopes tell of which cases they are.
+import { groupTitles } from '../colours';
+import { itemsOfCase } from '../geometry/loads';
+import { kind } from '../kinds';
+import type { Model } from '../model';
+import { caseTitle, nameOf, numberText } from '../names';
+import type { Context } from './context';
+import { button, checkbox, fill, h, newId } from './dom';
+import { caseTypeName } from './meanings';
+
+const kSelfWeights = kind('ChargesPoidsPropre');
+const kThermals = kind('ChargesThermiques');
+
+interface Case {
+    number: number;
+    title: string | undefined; // nothing: the file has no such case
+    type: number;
+    loads: number;
+}
+
+// Those of the file, then those that only loads name.
+export function casesOf(model: Model): Case[] {
+    const counts = new Map<number, number>();
+    for (const table of [
+        'ChargesPonctuelles',
+        'ChargesLineaires',
+        'ChargesSurfaciques',
+        'ChargesPoidsPropre',
+        'ChargesThermiques',
+    ]) {
+        for (const number of model.data.table(table).column('NumCas').raw)
+            counts.set(number, (counts.get(number) ?? 0) + 1);
+    }
+    const table = model.data.table('Cas');
+    const cases: Case[] = [];
+    const known = new Set<number>();
+    for (let row = 0; row < table.rows; ++row) {
+        const number = table.column('Num').number(row);
+        if (known.has(number)) continue;
+        known.add(number);
+        cases.push({
+            number,
+            title: table.column('Titre').text(row) ?? '',
+            type: table.column('Type').number(row),
+            loads: counts.get(number) ?? 0,
+        });
+    }
+    for (const [number, loads] of counts) {
+        if (!known.has(number)) cases.push({ number, title: undefined, type: 1, loads });
+    }
+    return cases;
+}
+
+export function makeLoadsPanel(context: Context, element: HTMLElement): void {
+    const { store, texts, model } = context;
+    const cases = casesOf(model);
+    const name = newId();
+    const list = h('div', { class: 'cases', role: 'radiogroup', 'aria-label': texts.cases });
+    const digits = Math.max(...cases.map(({ number }) => String(number).length));
+    list.style.setProperty('--digits', `${digits}ch`);
+    const choice = (
+        number: number | undefined,
+        ...content: (Node | string | undefined)[]
+    ): HTMLElement => {
+        const radio = h('input', {
+            type: 'radio',
+            name,
+            value: number ?? '',
+            checked: store.state.loadCase === number,
+            change: () => store.change({ loadCase: number }),
+        });
+        return h('label', { class: 'case' }, radio, ...content);
+    };
+    list.append(choice(undefined, h('span', { class: 'grow' }, texts.noCase)));
+    for (const { number, title, type, loads } of cases) {
+        list.append(
+            choice(
+                number,
+                h('span', { class: 'number' }, number),
+                h(
+                    'span',
+                    { class: 'grow' },
+                    title ?? texts.missingCase,
+                    ' ',
+                    h('span', { class: 'quiet' }, caseTypeName(texts, type)),
+                ),
+                loads > 0 ? h('span', { class: 'count' }, loads) : undefined,
+            ),
+        );
+    }
+    const detail = h('div', { class: 'case-detail' });
+    element.append(
+        h('div', { class: 'load-options' }, scaleSlider(context), valuesSwitch(context)),
+        list,
+        detail,
+    );
+    store.on(['loadCase', 'panel'], () => {
+        for (const radio of list.querySelectorAll('input')) {
+            const isChosen = radio.value === String(store.state.loadCase ?? '');
+            if (isChosen) radio.closest('label')!.scrollIntoView({ block: 'nearest' });
+            radio.checked = isChosen;
+        }
+        fillDetail(
+            context,
+            detail,
+            cases.find((one) => one.number === store.state.loadCase),
+        );
+    });
+}
+
+function scaleSlider({ store, texts }: Context): HTMLElement {
+    const id = newId();
+    const slider = h('input', {
+        type: 'range',
+        id,
+        min: '-2',
+        max: '2',
+        step: '0.25',
+        input: (event: Event) =>
+            store.change({ loadScale: 2 ** Number((event.target as HTMLInputElement).value) }),
+    });
+    store.on(['loadScale'], () => (slider.value = String(Math.log2(store.state.loadScale))));
+    return h('div', { class: 'row' }, h('label', { for: id }, texts.loadScale), slider);
+}
+
+function valuesSwitch({ store, texts }: Context): HTMLElement {
+    return checkbox(texts.values, store.state.showValues, (showValues) =>
+        store.change({ showValues }),
+    );
+}
+
+function fillDetail(context: Context, element: HTMLElement, chosen: Case | undefined): void {
+    const { texts } = context;
+    if (!chosen) {
+        fill(element);
+        return;
+    }
+    const parts = [
+        factored(context, chosen.number),
+        ...loadsOnGroups(context, chosen.number),
+        drawnLoads(context, chosen.number),
+    ];
+    const held = parts.filter((part) => part !== undefined);
+    fill(
+        element,
+        h('h3', {}, `${texts.case} ${chosen.number}${chosen.title ? ` · ${chosen.title}` : ''}`),
+        ...(held.length > 0
+            ? held
+            : [
+                  h(
+                      'p',
+                      { class: 'quiet' },
+                      chosen.type === 1 || chosen.type > 9
+                          ? texts.noLoads
+                          : caseTypeName(texts, chosen.type),
+                  ),
+              ]),
+    );
+}
+
+// The cases of a combination with their factors, or those of an envelope.
+function factored(context: Context, number: number): HTMLElement | undefined {
+    const { model, texts, store } = context;
+    const entry = (of: number, factor: number | undefined): HTMLElement =>
+        h(
+            'li',
+            {},
+            factor === undefined
+                ? undefined
+                : h('span', { class: 'factor' }, `${numberText(factor, 6)} ×`),
+            button(
+                `${of} ${caseTitle(model, of) ?? texts.missingCase}`,
+                () => store.change({ loadCase: of }),
+                { class: 'link' },
+            ),
+        );
+    const list = (heading: string, entries: HTMLElement[]): HTMLElement =>
+        h('div', {}, h('h4', {}, heading), h('ul', { class: 'factors' }, ...entries));
+    const combinations = model.data.table('Combinaisons');
+    const row = combinations.column('iNumCas').raw.indexOf(number);
+    if (row >= 0) {
+        const factors = combinations.column('pCoeff').numbers(row);
+        return list(
+            texts.combines,
+            combinations
+                .column('pNumCas')
+                .numbers(row)
+                .map((of, i) => entry(of, factors[i] ?? 0)),
+        );
+    }
+    const envelopes = model.data.table('Enveloppes');
+    const envelope = envelopes.column('iNumCas').raw.indexOf(number);
+    if (envelope < 0) return undefined;
+    return list(
+        texts.envelopes,
+        envelopes
+            .column('pCases')
+            .numbers(envelope)
+            .slice(0, 500)
+            .map((of) => entry(of, undefined)),
+    );
+}
+
+// Self-weight and temperature have no arrows: they are named, with the group they are on.
+function loadsOnGroups(context: Context, number: number): HTMLElement[] {
+    const { model, texts } = context;
+    return [kSelfWeights, kThermals].flatMap((ofKind) => {
+        const table = model.tableOf(ofKind);
+        const names = ofKind === kSelfWeights ? ['dX', 'dY', 'dZ'] : ['DeltaT', 'Gy', 'Gz'];
+        const entries: HTMLElement[] = [];
+        for (let rank = 0; rank < table.rows; ++rank) {
+            if (table.column('NumCas').number(rank) !== number) continue;
+            const [a, b, c] = names.map((column) =>
+                numberText(table.column(column).number(rank), 6),
+            );
+            const what =
+                ofKind === kSelfWeights
+                    ? `${texts.direction} (${a}; ${b}; ${c})`
+                    : `${a} °C, ${texts.gradients} ${b}; ${c}`;
+            entries.push(
+                h(
+                    'li',
+                    {},
+                    button(
+                        `${what} ${texts.onGroup} ${groupText(context, rank, ofKind.table)}`,
+                        () => context.select(model.item(ofKind, rank)),
+                        { class: 'link' },
+                    ),
+                ),
+            );
+        }
+        if (entries.length === 0) return [];
+        return [
+            h(
+                'div',
+                {},
+                h('h4', {}, ofKind === kSelfWeights ? texts.selfWeight : texts.thermal),
+                h('ul', { class: 'factors' }, ...entries.slice(0, 200)),
+            ),
+        ];
+    });
+}
+
+function groupText({ model, texts }: Context, rank: number, table: string): string {
+    const loads = model.data.table(table);
+    const place = loads.column('NumGrp').number(rank) - 1;
+    const groups = model.data.table('Groupes');
+    const elements = loads.column('ElemGrp').number(rank);
+    if (place < 0 || place >= groups.rows) return `${elements}:${place + 1}`;
+    const number = groups.column('Num').number(place);
+    const title = groupTitles(model).get(`${elements}:${number}`) ?? '';
+    const members = countOfGroup(model, elements, number);
+    return `${number} ${title} (${members} ${texts.elements})`;
+}
+
+function countOfGroup(model: Model, elements: number, number: number): number {
+    const table = {
+        1: 'AppuisPonctuels',
+        2: 'Filaires',
+        3: 'Surfaciques',
+        4: 'AppuisSurfaciques',
+        5: 'AppuisLineaires',
+    }[elements];
+    if (!table) return 0;
+    let count = 0;
+    for (const group of model.data.table(table).column('GroupNumber').raw)
+        count += Number(group === number);
+    return count;
+}
+
+function drawnLoads(context: Context, number: number): HTMLElement | undefined {
+    const { model, texts } = context;
+    const items = itemsOfCase(model, number);
+    if (items.length === 0) return undefined;
+    const shown = items.slice(0, 200).map((item) =>
+        h(
+            'li',
+            {},
+            button(nameOf(model, texts, item), () => context.goTo(item), { class: 'link' }),
+        ),
+    );
+    return h(
+        'details',
+        {},
+        h('summary', {}, `${texts.ofCase}: ${items.length} ${texts.loadsCount}`),
+        h('ul', { class: 'factors' }, ...shown),
+    );
+}
