@@ -183,7 +183,7 @@ TEST(Export, SaysWhatIsLostInBothLanguages)
 // Of each kind: what was there stays, and nothing else comes to be there.
 TEST(Export, DiskThatIsFullLeavesWhatWasThere)
 {
-    for (const char* name : {"a-csv", "a.xlsx", "a.saf.xlsx"}) {
+    for (const char* name : {"a-csv", "a.xlsx", "a.saf.xlsx", "a.vtu", "a.glb"}) {
         const ExportFolder folder;
         const std::vector<std::string> once = {"export", Sample("batiment"), "-o", folder / name,
                                                "--force"};
@@ -196,6 +196,43 @@ TEST(Export, DiskThatIsFullLeavesWhatWasThere)
         EXPECT_EQ(fs::last_write_time(folder / name), before);
         EXPECT_THAT(folder.Names(), testing::ElementsAre(name));
     }
+}
+
+// A file and the folder that it refers to: both or none.
+TEST(Export, FileWithAFolderIsWholeOrNotThere)
+{
+    const ExportFolder folder;
+    const std::vector<std::string> once = {"export", Sample("batiment"), "-o", folder / "a.vtm",
+                                           "--force"};
+    ExpectTrouble(RunTool(once, "ulimit -f 1;"), "the output cannot be written: File too large");
+    EXPECT_THAT(folder.Names(), IsEmpty());
+    EXPECT_EQ(RunTool(once).exitCode, 0);
+    EXPECT_THAT(folder.Names(), testing::UnorderedElementsAre("a.vtm", "a"));
+    std::ofstream(folder / "a/notes.txt") << "mine";
+    ExpectTrouble(RunTool(once), "the folder holds something else than .vtu files");
+    EXPECT_EQ(ContentOfFile(folder / "a/notes.txt"), "mine");
+}
+
+TEST(Export, DrawingsHaveTheGroupsAndCasesThatTheyAreTold)
+{
+    const TemporaryFile model(TwoGroups());
+    const auto exported = [&](const std::vector<std::string>& options) {
+        const ExportFolder folder;
+        std::vector<std::string> arguments = {"export", model.Path(), "-o", folder / "m.glb"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        EXPECT_EQ(RunTool(arguments).exitCode, 0);
+        const std::string content = ContentOfFile(folder / "m.glb");
+        std::string found;
+        for (const char* identifier : {"11", "12", "1", "2", "21", "22", "31"}) {
+            const std::string text = std::string("\"identifier\":") + identifier + ",";
+            if (content.find(text) != std::string::npos) found += std::string(identifier) + " ";
+        }
+        return found;
+    };
+    EXPECT_EQ(exported({}), "11 12 1 2 21 22 31 ");
+    EXPECT_EQ(exported({"--group", "Poutres"}), "11 2 21 ");
+    EXPECT_EQ(exported({"--group", "bars:2", "--case", "1"}), "12 1 ");
+    EXPECT_EQ(exported({"--case", "3"}), "11 12 1 2 22 31 ");
 }
 
 TEST(Export, SignalLeavesNothing)

@@ -70,7 +70,7 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
                  "tamur");
     app.footer(
         "Exit codes: 0 fine; 1 something was found (check), is different (diff), or the file was "
-        "not\nimported (info, dump); 2 trouble. `tamur COMMAND --help` says more.");
+        "not\nimported (info, dump, export); 2 trouble. `tamur COMMAND --help` says more.");
     app.set_version_flag("--version", "tamur " TAMUR_VERSION);
     app.add_option("--component", options->component,
                    "read the model through this component, not the one that is built in")

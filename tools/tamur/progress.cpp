@@ -34,7 +34,9 @@ void Progress::Show(std::ostream& terminal, const std::string& what)
     int seconds = 0;
     while (!ended_.wait_for(lock, std::chrono::seconds(1), [this] { return hasEnded_; })) {
         terminal << kWipe << what << " (" << ++seconds << " s";
-        if (percent_) terminal << ", " << percent_() << " %";
+        // What comes after the last record is not counted.
+        const int percent = percent_ ? percent_() : 100;
+        if (percent < 100) terminal << ", " << percent << " %";
         terminal << ')' << std::flush;
     }
     if (seconds != 0) terminal << kWipe << std::flush;

@@ -134,6 +134,7 @@ class GlbScene {
         out_.Key("generator");
         out_.Text("TAMUR Reader");
         out_.End('}');
+        report_.losses.Add(Kind::kNone, kMessages);
         Scene scene(out_);
         scene_ = &scene;
         ForEachTable(source_.reader, [this](const auto& table) { WriteElements(table); });

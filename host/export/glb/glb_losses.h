@@ -5,6 +5,9 @@
 
 namespace tamur::host {
 
+inline constexpr LossText kMessages = {LossType::kNot,
+                                       {"the version of the file, and messages of the import",
+                                        "la version du fichier et les messages de l'importation"}};
 inline constexpr LossText kNotDrawn = {LossType::kPartly,
                                        {"it has a place and its record, and no shape",
                                         "il a une place et son enregistrement, sans forme"}};

@@ -129,7 +129,7 @@ class Loads {
     {
         const Bar& bar = structure_.bars[index];
         const auto record = bars_.At(static_cast<LONG>(bar.rank));
-        return host::FrameOfBar(*record);
+        return host::FrameOfBar(*record, model_.NodeAt(bar.orientationNode));
     }
 
     void WritePoint(std::size_t place)

@@ -100,7 +100,8 @@ void CompressedArray::End(std::streampos begin, unsigned rest)
 {
     Flush();
     if (header_.front() > 0) {
-        while (static_cast<std::uint64_t>(out_.tellp() - begin) % 4 != rest) {
+        // A disk that is full gives no places.
+        while (out_ && static_cast<std::uint64_t>(out_.tellp() - begin) % 4 != rest) {
             out_.put('\0');
             ++header_.back();
         }

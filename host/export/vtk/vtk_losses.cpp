@@ -7,6 +7,9 @@
 namespace tamur::host {
 namespace {
 
+constexpr LossText kSettings = {LossType::kNot,
+                                {"settings, modal analysis, and messages of the import",
+                                 "paramètres, analyse modale et messages de l'importation"}};
 constexpr LossText kNumberOnly = {
     LossType::kNot,
     {"elements have its number, or its place in its table, only",
@@ -72,6 +75,7 @@ const LossText* LossOfKind(Kind kind)
 
 void AddVtkLosses(const Source& source, ExportReport& report)
 {
+    report.losses.Add(Kind::kNone, kSettings);
     ForEachTable(source.reader, [&](const auto& table) {
         const Kind kind = KindOfTable(table.Name());
         const auto taken =
