@@ -96,8 +96,9 @@ void Meshes::WriteAccessors(JsonWriter& out) const
         begin(0, 12 * std::uint64_t{mesh.firstPosition}, kFloat, mesh.positionCount);
         out.Text("VEC3");
         // As doubles: the shortest text of a single need not be it.
-        out.Array("min", double{mesh.low[0]}, double{mesh.low[1]}, double{mesh.low[2]});
-        out.Array("max", double{mesh.high[0]}, double{mesh.high[1]}, double{mesh.high[2]});
+        const auto exactly = [](float value) { return static_cast<double>(value); };
+        out.Array("min", exactly(mesh.low[0]), exactly(mesh.low[1]), exactly(mesh.low[2]));
+        out.Array("max", exactly(mesh.high[0]), exactly(mesh.high[1]), exactly(mesh.high[2]));
         out.End('}');
         if (mesh.indexCount == 0) continue;
         const bool hasNarrow = !narrow_.empty();
