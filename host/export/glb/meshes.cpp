@@ -96,9 +96,10 @@ void Meshes::WriteAccessors(JsonWriter& out) const
         begin(0, 12 * std::uint64_t{mesh.firstPosition}, kFloat, mesh.positionCount);
         out.Text("VEC3");
         // As doubles: the shortest text of a single need not be it.
-        const auto exactly = [](float value) { return static_cast<double>(value); };
-        out.Array("min", exactly(mesh.low[0]), exactly(mesh.low[1]), exactly(mesh.low[2]));
-        out.Array("max", exactly(mesh.high[0]), exactly(mesh.high[1]), exactly(mesh.high[2]));
+        out.Array("min", static_cast<double>(mesh.low[0]), static_cast<double>(mesh.low[1]),
+                  static_cast<double>(mesh.low[2]));
+        out.Array("max", static_cast<double>(mesh.high[0]), static_cast<double>(mesh.high[1]),
+                  static_cast<double>(mesh.high[2]));
         out.End('}');
         if (mesh.indexCount == 0) continue;
         const bool hasNarrow = !narrow_.empty();
