@@ -26,6 +26,11 @@ class Failure : public std::runtime_error {
     std::string code_;
 };
 
+inline void Need(bool isGiven, const char* what)
+{
+    if (!isGiven) throw Failure(TAMUR_WRONG_CALL, what);
+}
+
 // Fills in what the caller has room for; takes no memory. `error` may be null.
 int32_t Fail(TamurError* error, int32_t status, std::string_view why, std::string_view code = {});
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -14,6 +13,7 @@
 #include "host/check.h"
 #include "host/diff/model_diff.h"
 #include "host/rows/layout.h"
+#include "host_text.h"
 #include "model.h"
 #include "tools/tamur/command_line.h"
 #include "tools/tamur/diff/json.h"
@@ -24,11 +24,6 @@ namespace {
 
 // Of each code so many findings are kept; a file of a gigabyte may have one in each line.
 constexpr std::size_t kKeptFindings = 10000;
-
-void Need(bool isGiven, const char* what)
-{
-    if (!isGiven) throw Failure(TAMUR_WRONG_CALL, what);
-}
 
 [[noreturn]] void Refuse(const host::Finding& why)
 {
@@ -86,15 +81,6 @@ std::string DiffText(const TamurModel& before, const TamurModel& after, double t
     out.exceptions(std::ios_base::badbit | std::ios_base::failbit);
     WriteDiffJson(result, out);
     return std::move(out).str();
-}
-
-// For a host that frees it with the library's own function.
-char* TextForHost(const std::string& text)
-{
-    char* const copy = static_cast<char*>(std::malloc(text.size() + 1));
-    if (copy == nullptr) throw std::bad_alloc();
-    std::memcpy(copy, text.c_str(), text.size() + 1);
-    return copy;
 }
 
 // One lock when both are the same model; always the same first, whoever asks.

@@ -22,7 +22,9 @@ void ExportModel(const std::string& name, const ImportedFile& file, Findings& fi
     Structure structure = needsContacts ? ReadStructure(reader) : ReadModel(reader);
     if (!needsContacts) FindSurfacesOfOpenings(structure);
     const LoadCases cases = ReadLoadCases(reader);
-    if (target.need == Need::kFindings) CheckModel(structure, cases, file.lines, findings);
+    if (target.need == Need::kFindings && !options.isChecked) {
+        CheckModel(structure, cases, file.lines, findings);
+    }
     const Selection selection(structure, cases, options.wanted);
     const Source source{name, file, reader, structure, cases, selection, findings};
     const auto path = options.output.empty() ? DefaultOutput(name, target) : options.output;

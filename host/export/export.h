@@ -13,6 +13,7 @@ struct ExportOptions {
                                    // in the current folder
     Wanted wanted;
     bool mayReplace = false;
+    bool isChecked = false;  // the findings are those of the model already
 };
 
 // Of "models/hall.txt" and csv "hall-csv".

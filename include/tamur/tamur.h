@@ -46,7 +46,8 @@ enum {
     TAMUR_REFUSED = 1,    /* the file was not imported; the cause is in the error */
     TAMUR_NO_MEMORY = 2,  /* also for what does not fit: try with more */
     TAMUR_WRONG_CALL = 3, /* an argument is null, or means nothing */
-    TAMUR_FAILED = 4      /* anything else: see the text */
+    TAMUR_FAILED = 4,     /* anything else: see the text */
+    TAMUR_NOT_WRITTEN = 5 /* the output cannot be, or is there already: what was there stays */
 };
 
 /* Written when a call fails. The text is one line, English, ended by a NUL and cut where it does
@@ -103,6 +104,29 @@ TAMUR_API void TamurReleaseTable(const TamurTable* table); /* null does nothing 
 TAMUR_API int32_t TamurDiff(TamurModel* before, TamurModel* after, double tolerance, char** json,
                             TamurError* error);
 TAMUR_API void TamurReleaseText(char* text); /* null does nothing */
+
+/* What an export takes; all of it with zeros. */
+typedef struct TamurExportOptions {
+    const char* kind;     /* "csv", "xlsx", ...: docs/export.md; null: by the name of the output */
+    const int32_t* cases; /* only the loads of these; of combinations, those of their cases */
+    uint64_t case_count;
+    const char* const* groups; /* only these and what is on them: titles, or "bars:3" */
+    uint64_t group_count;
+    int32_t replace; /* whether what is there may be replaced */
+} TamurExportOptions;
+
+/* Writes a model that was opened with a check, whole or not at all, as `tamur export` does. `name`
+ * is what the output calls the model's file; `options` may be null. The summary, which is given
+ * back to TamurReleaseText, says in English what the output lacks, has in part, and assumes; ""
+ * when nothing. All texts are UTF-8.
+ */
+TAMUR_API int32_t TamurExport(TamurModel* model, const char* name, const char* output,
+                              const TamurExportOptions* options, char** summary, TamurError* error);
+
+/* A model that was opened with a check as one page for a browser, as `tamur view` writes it: HTML
+ * in UTF-8, given back to TamurReleaseText.
+ */
+TAMUR_API int32_t TamurView(TamurModel* model, const char* name, char** page, TamurError* error);
 
 /* The command-line tool, in this process and with its standard streams, so one call at a time. The
  * arguments are UTF-8, without the name of a program. Returns its exit code.

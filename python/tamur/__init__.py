@@ -9,6 +9,8 @@
 
     tamur.read("hall.txt", check=True).findings
     tamur.diff("before.txt", "after.txt")
+    m.export("hall.xlsx")               # also csv, saf, vtu, vtm, glb
+    m.view("hall.html")                 # one page for any browser
 """
 from . import _library
 from ._diff import Change, Diff, FieldChange, diff

@@ -4,18 +4,27 @@ from __future__ import annotations
 import ctypes
 import os
 import sys
-from typing import Any, Optional, Sequence
+from typing import Any, Callable, Optional, Sequence
 
 import numpy as np
 
 from ._errors import ImportRefused
 
 _NAME = "tamur.dll" if sys.platform == "win32" else "libtamur.so"
-_OK, _REFUSED, _NO_MEMORY, _WRONG_CALL = range(4)
+_OK, _REFUSED, _NO_MEMORY, _WRONG_CALL, _, _NOT_WRITTEN = range(6)
 
 
 class _Error(ctypes.Structure):
     _fields_ = [("code", ctypes.c_char * 8), ("text", ctypes.c_char * 1016)]
+
+
+class _ExportOptions(ctypes.Structure):
+    _fields_ = [
+        ("kind", ctypes.c_char_p),
+        ("cases", ctypes.POINTER(ctypes.c_int32)), ("case_count", ctypes.c_uint64),
+        ("groups", ctypes.POINTER(ctypes.c_char_p)), ("group_count", ctypes.c_uint64),
+        ("replace", ctypes.c_int32),
+    ]
 
 
 class _Table(ctypes.Structure):
@@ -44,6 +53,11 @@ def _load() -> ctypes.CDLL:
             ("TamurReleaseTable", None, [table]),
             ("TamurDiff", ctypes.c_int32, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_double,
                                            ctypes.POINTER(ctypes.c_void_p), error]),
+            ("TamurExport", ctypes.c_int32, [
+                ctypes.c_void_p, ctypes.c_char_p, ctypes.c_char_p, ctypes.POINTER(_ExportOptions),
+                ctypes.POINTER(ctypes.c_void_p), error]),
+            ("TamurView", ctypes.c_int32, [ctypes.c_void_p, ctypes.c_char_p,
+                                           ctypes.POINTER(ctypes.c_void_p), error]),
             ("TamurReleaseText", None, [ctypes.c_void_p]),
             ("TamurRunTool", ctypes.c_int32, [ctypes.c_int32, ctypes.POINTER(ctypes.c_char_p)])):
         function = getattr(library, name)
@@ -71,6 +85,8 @@ def _check(status: int, error: _Error, source: str) -> None:
         raise ImportRefused(source, error.code.decode(), text)
     if status == _NO_MEMORY:
         raise MemoryError(text)
+    if status == _NOT_WRITTEN:
+        raise OSError(text)
     raise ValueError(text) if status == _WRONG_CALL else RuntimeError(text)
 
 
@@ -149,14 +165,37 @@ class ModelHandle:
         return TableMemory(table)
 
     def diff(self, after: ModelHandle, tolerance: float) -> str:
-        text = ctypes.c_void_p()
-        error = _Error()
-        _check(_library.TamurDiff(self._model, after._model, tolerance, ctypes.byref(text),
-                                  ctypes.byref(error)), error, "")
-        try:
-            return ctypes.string_at(text.value or 0).decode("utf-8", "replace")
-        finally:
-            _library.TamurReleaseText(text)
+        return _text(lambda text, error: _library.TamurDiff(
+            self._model, after._model, tolerance, text, error))
+
+    def export(self, name: str, output: str, kind: Optional[str], cases: Sequence[int],
+               groups: Sequence[str], replace: bool) -> str:
+        options = _ExportOptions(
+            kind.encode("utf-8") if kind else None,
+            (ctypes.c_int32 * len(cases))(*cases), len(cases),
+            (ctypes.c_char_p * len(groups))(*(group.encode("utf-8") for group in groups)),
+            len(groups), replace)
+        return _text(lambda text, error: _library.TamurExport(
+            self._model, _encoded(name), _encoded(output), ctypes.byref(options), text, error))
+
+    def view(self, name: str) -> str:
+        return _text(lambda text, error: _library.TamurView(
+            self._model, _encoded(name), text, error))
+
+
+def _encoded(text: str) -> bytes:
+    return text.encode("utf-8", "replace")
+
+
+def _text(call: Callable[[Any, Any], Any]) -> str:
+    """What the library writes into a text of its own."""
+    text = ctypes.c_void_p()
+    error = _Error()
+    _check(call(ctypes.byref(text), ctypes.byref(error)), error, "")
+    try:
+        return ctypes.string_at(text.value or 0).decode("utf-8", "replace")
+    finally:
+        _library.TamurReleaseText(text)
 
 
 def run_tool(arguments: Sequence[str]) -> int:

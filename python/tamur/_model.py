@@ -5,10 +5,11 @@ import html
 import os
 import sys
 import tempfile
-from typing import IO, TYPE_CHECKING, Any, Optional, TypeVar, Union
+from typing import IO, TYPE_CHECKING, Any, Optional, Sequence, TypeVar, Union
 
 from ._library import ModelHandle
 from ._loads import Loads
+from ._page import write_page
 from ._row import Row
 from ._table import Table
 from ._tables import FindingCounts, Findings, Messages, Modal, ModelTables, Settings
@@ -19,11 +20,17 @@ if TYPE_CHECKING:
 _Table = TypeVar("_Table", bound=Table)
 
 
+# Rows of a model that is shown in a notebook as soon as it is named.
+_MOST_SHOWN = 300_000
+
+
 class Model(ModelTables):
     """What a model file holds. Tables are read when they are first asked for, and stay."""
 
-    def __init__(self, handle: ModelHandle, source: str, is_checked: bool) -> None:
+    def __init__(self, handle: ModelHandle, source: str, is_checked: bool,
+                 path: Optional[str] = None) -> None:
         self._handle = handle
+        self._path = path  # where it can be read again
         self._is_checked = is_checked
         self._tables: dict[Any, Any] = {}
         #: The file, as it was named.
@@ -70,6 +77,40 @@ class Model(ModelTables):
         """The loads of the load case with that number, or all."""
         return Loads(self, case)
 
+    def export(self, path: Union[str, os.PathLike[str]], kind: Optional[str] = None, *,
+               case: Union[int, Sequence[int]] = (), group: Union[str, Sequence[str]] = (),
+               force: bool = False) -> str:
+        """Writes the model in a form that other programs read, as `tamur export` does.
+
+        `kind` is "csv", "xlsx", "saf", "vtu", "vtm" or "glb"; without it the name tells. `case` and
+        `group` take only the loads of these cases and these groups. Returns what the output lacks,
+        has in part, and assumes. Raises OSError when it cannot be written, or is there already and
+        `force` is not given.
+        """
+        cases = [case] if isinstance(case, int) else list(case)
+        groups = [group] if isinstance(group, str) else list(group)
+        return self._checked().export(self.source, os.fsdecode(path), kind, cases, groups, force)
+
+    def view(self, path: Union[str, os.PathLike[str], None] = None, *, force: bool = False) -> str:
+        """The model as one page for any browser, without a network: what `tamur view` writes.
+
+        Returns the page. With `path` it is written there too; what is there and is no such page is
+        replaced with `force` only.
+        """
+        page = self._checked().view(os.path.basename(self.source))
+        if path is not None:
+            write_page(page, os.fsdecode(path), force)
+        return page
+
+    def _checked(self) -> ModelHandle:
+        """What knows the lines of the file and the findings: both are part of what is written."""
+        if self._is_checked:
+            return self._handle
+        if self._path is None:
+            raise ValueError("what was not read from a path is exported and viewed when it was read "
+                             "with check=True")
+        return ModelHandle(self._path, True, self.source)
+
     def __reduce__(self) -> Any:
         raise TypeError("a model does not travel between processes: read its file there")
 
@@ -85,7 +126,13 @@ class Model(ModelTables):
         rows = "".join(f"<tr><td>{name}</td><td>{count}</td></tr>"
                        for name, count in self._summary())
         title = html.escape(f"{self.source}, version {self.version}")
-        return f"<table><caption>{title}</caption><tbody>{rows}</tbody></table>"
+        table = f"<table><caption>{title}</caption><tbody>{rows}</tbody></table>"
+        if not self._is_checked and self._path is None:
+            return table
+        if sum(count for _, count in self._summary()) > _MOST_SHOWN:
+            return table
+        return (f'<iframe title="{title}" srcdoc="{html.escape(self.view())}" '
+                f'style="width:100%;height:36em;border:0"></iframe>{table}')
 
 
 def read(source: Source, *, check: bool = False) -> Model:
@@ -99,7 +146,7 @@ def read(source: Source, *, check: bool = False) -> Model:
         if "\0" in path:
             raise ValueError("a path with a NUL in it")
         if _is_plain(path):
-            return Model(ModelHandle(path, check, path), path, check)
+            return Model(ModelHandle(path, check, path), path, check, path)
         # The import would open another file, or none.
         with open(path, "rb") as file:
             return _read_bytes(file.read(), check, path)

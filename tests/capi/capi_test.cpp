@@ -51,6 +51,13 @@ Model OpenedText(const std::string& text, int check = 0)
     return Opened(Utf8Of(file.Path()), check);
 }
 
+std::string Given(char* text)
+{
+    const std::string copy = text != nullptr ? text : "none";
+    TamurReleaseText(text);
+    return copy;
+}
+
 TablePointer TableFrom(const Model& model, int number)
 {
     const TamurTable* table = nullptr;
@@ -286,6 +293,45 @@ TEST(CInterface, ServesSeveralThreadsFromOneModel)
     std::thread first(work, false), second(work, true);
     first.join();
     second.join();
+}
+
+TEST(CInterface, ExportsAndShowsACheckedModel)
+{
+    const Model model = OpenedText(EveryTable().Text(), 1);
+    const TemporaryFile place("");
+    const std::string output = Utf8Of(place.Path()) + ".vtu";
+    const int32_t cases[] = {1};
+    TamurExportOptions options = {};
+    options.cases = cases;
+    options.case_count = 1;
+    char* text = nullptr;
+    TamurError error = {};
+    ASSERT_EQ(TamurExport(model.get(), "m.txt", output.c_str(), &options, &text, &error), TAMUR_OK)
+        << error.text;
+    EXPECT_THAT(Given(text), HasSubstr("not written:"));
+    EXPECT_EQ(TamurExport(model.get(), "m.txt", output.c_str(), nullptr, &text, &error),
+              TAMUR_NOT_WRITTEN);
+    EXPECT_THAT(error.text, HasSubstr("already"));
+    options.replace = 1;
+    ASSERT_EQ(TamurExport(model.get(), "m.txt", output.c_str(), &options, &text, &error), TAMUR_OK);
+    TamurReleaseText(text);
+    std::filesystem::remove(std::filesystem::path(std::u8string(output.begin(), output.end())));
+
+    ASSERT_EQ(TamurView(model.get(), "m.txt", &text, &error), TAMUR_OK) << error.text;
+    EXPECT_THAT(Given(text), HasSubstr("<!doctype html>"));
+}
+
+TEST(CInterface, WhatIsExportedWasChecked)
+{
+    const Model model = OpenedText(EveryTable().Text());
+    char* text = nullptr;
+    TamurError error = {};
+    EXPECT_EQ(TamurView(model.get(), "", &text, &error), TAMUR_WRONG_CALL);
+    EXPECT_EQ(TamurExport(model.get(), "", "a.csv", nullptr, &text, &error), TAMUR_WRONG_CALL);
+    EXPECT_THAT(error.text, HasSubstr("without a check"));
+    EXPECT_EQ(TamurExport(nullptr, "", "a.csv", nullptr, &text, &error), TAMUR_WRONG_CALL);
+    EXPECT_EQ(TamurExport(model.get(), "", "", nullptr, &text, &error), TAMUR_WRONG_CALL);
+    EXPECT_EQ(TamurView(model.get(), "", nullptr, &error), TAMUR_WRONG_CALL);
 }
 
 TEST(CInterface, TellsItsLayoutAndVersion)
