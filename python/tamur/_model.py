@@ -107,8 +107,8 @@ class Model(ModelTables):
         if self._is_checked:
             return self._handle
         if self._path is None:
-            raise ValueError("what was not read from a path is exported and viewed when it was read "
-                             "with check=True")
+            raise ValueError("what is not read from a path is read with check=True to be exported "
+                             "or viewed")
         return ModelHandle(self._path, True, self.source)
 
     def __reduce__(self) -> Any:
