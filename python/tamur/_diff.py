@@ -3,6 +3,7 @@ from __future__ import annotations
 
 import json
 from dataclasses import dataclass
+from numbers import Real
 from typing import TYPE_CHECKING, Any, Optional, Union
 
 from ._model import Model, read
@@ -95,5 +96,7 @@ def diff(before: Union[Model, Source], after: Union[Model, Source], *,
     Coordinates that are `tolerance` apart are the same, and other reals that differ by that part of
     the larger one.
     """
+    if not isinstance(tolerance, Real) or isinstance(tolerance, bool):
+        raise TypeError(f"a tolerance is a real, not {type(tolerance).__name__}")
     models = [model if isinstance(model, Model) else read(model) for model in (before, after)]
     return Diff(json.loads(models[0]._handle.diff(models[1]._handle, float(tolerance))))

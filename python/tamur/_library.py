@@ -105,6 +105,7 @@ class TableMemory:
     def __init__(self, pointer: Any) -> None:
         self._pointer = pointer
         self._release = _library.TamurReleaseTable
+        self._texts: Optional[np.ndarray[Any, Any]] = None
 
     def __del__(self) -> None:
         self._release(self._pointer)
@@ -131,7 +132,13 @@ class TableMemory:
         return self._array(table.integers, table.integer_count, "<i4")
 
     def texts(self) -> np.ndarray[Any, Any]:
-        """Every text, and None at the end: there the place -1 leads."""
+        """Every text, and None at the end: there the place -1 leads. All parts of a table share
+        them."""
+        if self._texts is None:
+            self._texts = self._decoded_texts()
+        return self._texts
+
+    def _decoded_texts(self) -> np.ndarray[Any, Any]:
         table = self._pointer.contents
         texts = np.empty(table.text_count + 1, object)
         data = ctypes.string_at(table.texts, table.text_bytes)

@@ -2,11 +2,14 @@
 from __future__ import annotations
 
 import html
+import io
 import os
+import stat
 import sys
 import tempfile
 from typing import IO, TYPE_CHECKING, Any, Optional, Sequence, TypeVar, Union
 
+from ._errors import ImportRefused
 from ._library import ModelHandle
 from ._loads import Loads
 from ._page import write_page
@@ -70,11 +73,14 @@ class Model(ModelTables):
             raise ValueError("nothing was looked for: read the file with check=True")
         findings = self._table(Findings)
         counts = self._table(FindingCounts)
-        findings.counts = dict(zip(counts["code"].tolist(), counts["count"].tolist()))
+        findings._counts = dict(zip(counts["code"].tolist(), counts["count"].tolist()))
         return findings
 
     def loads(self, case: Optional[int] = None) -> Loads:
-        """The loads of the load case with that number, or all."""
+        """The loads of the load case with that number, or all.
+
+        Raises KeyError for a number that is no case, or that of a combination without loads.
+        """
         return Loads(self, case)
 
     def export(self, path: Union[str, os.PathLike[str]], kind: Optional[str] = None, *,
@@ -141,6 +147,8 @@ def read(source: Source, *, check: bool = False) -> Model:
     With `check` everything is looked for that is wrong with it: `findings` of the model. Raises
     ImportRefused with the cause when it is no model file or cannot be read.
     """
+    if not isinstance(check, bool):
+        raise TypeError(f"check is True or False, not {type(check).__name__}")
     if isinstance(source, (str, os.PathLike)):
         path = os.fsdecode(source)
         if "\0" in path:
@@ -148,12 +156,11 @@ def read(source: Source, *, check: bool = False) -> Model:
         if _is_plain(path):
             return Model(ModelHandle(path, check, path), path, check, path)
         # The import would open another file, or none.
-        with open(path, "rb") as file:
-            return _read_bytes(file.read(), check, path)
+        return _read_bytes(_content_of(path), check, path)
     if isinstance(source, (bytes, bytearray, memoryview)):
         return _read_bytes(source, check, "<bytes>")
     if hasattr(source, "read"):
-        content = source.read()
+        content = None if isinstance(source, io.TextIOBase) else source.read()
         if not isinstance(content, (bytes, bytearray, memoryview)):
             raise TypeError("a model file is opened in binary mode: open(name, 'rb')")
         return _read_bytes(content, check, str(getattr(source, "name", "<file>")))
@@ -170,7 +177,22 @@ def _is_plain(path: str) -> bool:
         return False
 
 
+def _content_of(path: str) -> bytes:
+    """Refused as the library refuses other paths."""
+    try:
+        if not stat.S_ISREG(os.stat(path).st_mode):  # before it is opened: a pipe would wait
+            raise ImportRefused(path, "TMR011", "this is a folder, a device or a pipe, not a file")
+        file = open(path, "rb")
+    except OSError as error:
+        raise ImportRefused(path, "TMR001",
+                            f"the file cannot be opened: {error.strerror}") from error
+    with file:
+        return file.read()
+
+
 def _read_bytes(content: Union[bytes, bytearray, memoryview], check: bool, source: str) -> Model:
+    if isinstance(content, memoryview) and not content.c_contiguous:
+        content = content.tobytes()
     # The import reads files, and reads them twice.
     descriptor, path = tempfile.mkstemp(".txt", "tamur-")
     try:

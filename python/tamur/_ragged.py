@@ -7,8 +7,15 @@ from typing import Any, Iterator, Optional
 
 import numpy as np
 
+from ._checks import is_integer
+
 POINT = 3
 Array = np.ndarray[Any, Any]
+
+
+def read_only(values: Array) -> Array:
+    values.flags.writeable = False
+    return values
 
 
 class Ragged(Sequence):  # type: ignore[type-arg]
@@ -26,19 +33,20 @@ class Ragged(Sequence):  # type: ignore[type-arg]
         self._texts = texts
         #: How many values each row has.
         self.lengths: np.ndarray[Any, np.dtype[np.int64]] = lists["count"].astype(np.int64)
+        read_only(self.lengths)
 
     def __len__(self) -> int:
         return len(self.lengths)
 
     def __getitem__(self, row: Any) -> Any:
-        if isinstance(row, (bool, np.bool_)) or not isinstance(row, (int, np.integer)):
+        if not is_integer(row):
             raise TypeError(f"a row is an integer, not {type(row).__name__}")
         row = range(len(self))[row]
         start, stored = int(self._starts[row]), int(self._stored[row])
         held = self._block[start:start + stored * self._width]
         values = self._empty(int(self.lengths[row]))
         values.reshape(-1)[:len(held)] = held if self._texts is None else self._texts[held]
-        return values
+        return read_only(values)
 
     def __iter__(self) -> Iterator[Array]:
         for row in range(len(self)):
@@ -55,7 +63,7 @@ class Ragged(Sequence):  # type: ignore[type-arg]
     def offsets(self) -> Array:
         """Where the values of each row begin, and where one more would: one more than there are
         rows."""
-        return np.concatenate(([0], np.cumsum(self.lengths)))
+        return read_only(np.concatenate(([0], np.cumsum(self.lengths))))
 
     @cached_property
     def values(self) -> Array:
@@ -68,13 +76,13 @@ class Ragged(Sequence):  # type: ignore[type-arg]
                                                  (self._starts[sizes > 0][0] + before)[sizes > 0]):
             first = int(self._starts[sizes > 0][0])
             held = self._block[first:first + total]
-            return held.reshape(-1, self._width) if self._width > 1 else held
+            return read_only(held.reshape(-1, self._width) if self._width > 1 else held)
         values = self._empty(int(self.lengths.sum()))
         within = np.arange(total) - np.repeat(before, sizes)
         held = self._block[np.repeat(self._starts, sizes) + within]
         places = np.repeat(self.offsets[:-1] * self._width, sizes) + within
         values.reshape(-1)[places] = held if self._texts is None else self._texts[held]
-        return values
+        return read_only(values)
 
     def __repr__(self) -> str:
         return f"<Ragged: {len(self)} rows, {int(self.lengths.sum())} values>"

@@ -1,14 +1,16 @@
 """Tables as columns of NumPy."""
 from __future__ import annotations
 
+from collections import Counter
 from typing import TYPE_CHECKING, Any, Iterator, Optional, Sequence, TypeVar, Union
 
 import numpy as np
 
 from . import _text
+from ._checks import is_integer
 from ._layout import Column, Layout
 from ._library import TableMemory
-from ._ragged import POINT, Array, Ragged
+from ._ragged import POINT, Array, Ragged, read_only
 from ._row import Row
 
 if TYPE_CHECKING:
@@ -31,9 +33,8 @@ class Table:
 
     def __init__(self, memory: TableMemory, rows: Optional[Array] = None) -> None:
         self._memory = memory
-        self._rows = memory.rows(self.layout.dtype) if rows is None else rows
+        self._rows = read_only(memory.rows(self.layout.dtype) if rows is None else rows)
         self._columns: dict[str, Any] = {}
-        self._texts: Optional[Array] = None
 
     # What it has.
 
@@ -48,6 +49,14 @@ class Table:
         places and lists say where their values are."""
         return self._rows
 
+    def __array__(self, dtype: Any = None, copy: Optional[bool] = None) -> Array:
+        """`rows`, for functions of NumPy."""
+        if dtype is None or np.dtype(dtype) == self._rows.dtype:
+            return self._rows.copy() if copy else self._rows
+        if copy is False:
+            raise ValueError(f"{self.layout.name}: rows of another type are a copy")
+        return self._rows.astype(dtype)
+
     def __len__(self) -> int:
         return len(self._rows)
 
@@ -58,7 +67,7 @@ class Table:
     def __getitem__(self, key: Any) -> Any:
         if isinstance(key, str):
             return self._column(key)
-        if isinstance(key, (int, np.integer)) and not isinstance(key, bool):
+        if is_integer(key):
             return self._row(int(key))
         if isinstance(key, slice):
             return self._with(self._rows[key])
@@ -66,6 +75,9 @@ class Table:
 
     def find(self, key: Union[int, str]) -> Row:
         """The first row with that identifier or number, or with that name or title."""
+        if not isinstance(key, str) and not is_integer(key):
+            raise TypeError(f"{self.layout.name}: a row is found by a number, an integer, or by a "
+                            f"text, not by {type(key).__name__}")
         names = ("name", "title") if isinstance(key, str) else ("identifier", "number", "load_case")
         for name in names:
             if name in self.layout.by_name:
@@ -84,16 +96,17 @@ class Table:
     # How it does it.
 
     def _with(self: _Table, rows: Array) -> _Table:
-        table = type(self)(self._memory, rows)
-        table._texts = self._texts
-        return table
+        return type(self)(self._memory, rows)
 
     def _row(self, place: int) -> Any:
         if not -len(self) <= place < len(self):
-            raise IndexError(f"{self.layout.name} have {len(self)} rows, not {place}")
+            raise IndexError(f"{self.layout.name} have {len(self)} rows: there is no {place}")
         return Row(self, place % len(self))
 
     def _taken(self, key: Any) -> Array:
+        if isinstance(key, tuple):
+            raise TypeError(f"{self.layout.name}: a table has one dimension, and a list of places "
+                            f"takes rows: [[0, 1]], not [0, 1]")
         places = np.asarray(key)
         if places.size == 0 and not isinstance(key, np.ndarray):
             places = places.astype(np.int64)
@@ -105,8 +118,9 @@ class Table:
                 raise IndexError(f"{len(places)} booleans for {len(self)} rows")
             chosen: Array = self._rows[places]
             return chosen
-        if len(places) and not (-1 <= int(places.min()) and int(places.max()) < len(self)):
-            raise IndexError(f"{self.layout.name} have {len(self)} rows")
+        outside = places[(places < -1) | (places >= len(self))]
+        if len(outside):
+            raise IndexError(f"{self.layout.name} have {len(self)} rows: there is no {outside[0]}")
         if len(self) == 0:
             return np.repeat(self.layout.absent_row(), len(places))
         taken: Array = self._rows[places]
@@ -114,11 +128,6 @@ class Table:
         if is_absent.any():
             taken[is_absent] = self.layout.absent_row()
         return taken
-
-    def _all_texts(self) -> Array:
-        if self._texts is None:
-            self._texts = self._memory.texts()
-        return self._texts
 
     def _column(self, name: str) -> Any:
         if name not in self._columns:
@@ -131,15 +140,14 @@ class Table:
     def _made_column(self, column: Column) -> Any:
         values = self._rows[column.name]
         if column.kind == "text":
-            values = self._all_texts()[values]
+            values = self._memory.texts()[values]
         if column.kind == "texts":
-            return Ragged(values, self._memory.integers(), texts=self._all_texts())
+            return Ragged(values, self._memory.integers(), texts=self._memory.texts())
         if column.kind == "ints":
             return Ragged(values, self._memory.integers())
         if column.kind in ("reals", "points"):
             return Ragged(values, self._memory.reals(), POINT if column.kind == "points" else 1)
-        values.flags.writeable = False
-        return values
+        return read_only(values)
 
     def value(self, name: str, place: int) -> Any:
         """One value, as Python has it."""
@@ -147,7 +155,7 @@ class Table:
         if column is None or column.is_list or column.length:
             return self._column(name)[place]
         value = self._rows[name][place]
-        return self._all_texts()[value] if column.kind == "text" else value.item()
+        return self._memory.texts()[value] if column.kind == "text" else value.item()
 
     def __reduce__(self) -> Any:
         raise TypeError("a table does not travel between processes: its columns and frames do")
@@ -175,7 +183,9 @@ class CombinationTable(Table):
         return dict(zip(row["cases"].tolist(), row["factors"].tolist()))
 
     def __contains__(self, number: object) -> bool:
-        return number in self["load_case"]
+        if not is_integer(number):
+            raise TypeError(f"a combination has a number, an integer, not {type(number).__name__}")
+        return bool((self["load_case"] == number).any())
 
     def as_dict(self) -> dict[int, dict[int, float]]:
         """All of them by their numbers."""
@@ -183,12 +193,21 @@ class CombinationTable(Table):
 
 
 class FindingTable(Table):
-    #: How many there are of each code; of each the first 10000 are in the table.
-    counts: dict[str, int]
+    _counts: Optional[dict[str, int]] = None
+
+    @property
+    def counts(self) -> dict[str, int]:
+        """How many there are of each code; of each the first 10000 are in the table. Of rows that
+        were taken from it: how many of each code were taken."""
+        if self._counts is None:
+            self._counts = dict(Counter(code for code in self["code"].tolist() if code))
+        return self._counts
 
     def of(self, severity: str) -> FindingTable:
         """Those that are an "error", a "warning" or a "note"."""
         if severity not in ("error", "warning", "note"):
             raise ValueError(f"no severity {severity!r}: error, warning or note")
         found: FindingTable = self[np.asarray(self["severity"] == severity, bool)]
+        codes = set(found["code"])
+        found._counts = {code: n for code, n in self.counts.items() if code in codes}
         return found

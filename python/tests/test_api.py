@@ -43,6 +43,49 @@ def test_a_file_in_text_mode_is_a_type_error(hall):
         tamur.read(file)
 
 
+def test_what_reads_texts_is_a_type_error(hall):
+    with open(hall, encoding="utf-8") as file, pytest.raises(TypeError, match="binary"):
+        tamur.read(file)  # Latin letters that are no UTF-8
+    with pytest.raises(TypeError, match="binary"):
+        tamur.read(io.StringIO("#Version"))
+
+
+def test_arguments_of_a_wrong_type(hall):
+    for wrong in ("no", 1, None):
+        with pytest.raises(TypeError, match="check is True or False"):
+            tamur.read(hall, check=wrong)
+    for wrong in ("0.1", None, True, 1j):
+        with pytest.raises(TypeError, match="tolerance is a real"):
+            tamur.diff(hall, hall, tolerance=wrong)
+    assert tamur.diff(hall, hall, tolerance=np.float32(0.5)).same
+
+
+def test_every_other_byte_of_a_view(hall):
+    content = hall.read_bytes()
+    doubled = bytes(byte for one in content for byte in (one, 0))
+    assert tamur.read(memoryview(doubled)[::2]).bars.rows.tobytes() == (
+        tamur.read(hall).bars.rows.tobytes())
+
+
+def test_odd_names_are_refused_as_others(tmp_path):
+    folder, file = tmp_path / "folder", tmp_path / "file"
+    file.write_bytes(b"")
+    os.mkfifo(tmp_path / "pipe")
+    (tmp_path / "pipe\udcff").symlink_to(tmp_path / "pipe")
+    for path in (folder, tmp_path / "folder\udcff"):
+        path.mkdir()
+    (tmp_path / "file\udcff").write_bytes(b"")
+    for name in ("nothing{}", "folder{}", "pipe{}", "nothing{}" + 300 * "n", "file{}"):
+        reasons = []
+        for odd in ("", "\udcff"):
+            path = str(tmp_path / name.format(odd))
+            with pytest.raises(tamur.ImportRefused) as refused:
+                tamur.read(path)
+            assert refused.value.source == path
+            reasons.append((refused.value.code, refused.value.cause))
+        assert reasons[0] == reasons[1], name
+
+
 def test_a_refused_file_says_why(tmp_path):
     with pytest.raises(tamur.ImportRefused) as missing:
         tamur.read(tmp_path / "nothing.txt")
@@ -91,9 +134,12 @@ def test_parts_of_tables(hall):
     for wrong in (55, -56):
         with pytest.raises(IndexError):
             bars[wrong]
-    for wrong in ([55], [-2], [True, False]):
-        with pytest.raises(IndexError):
+    for wrong, named in (([0, 55, 1], "55"), ([-2], "-2"), ([True, False], "2 booleans"),
+                         (np.array([3, 2**64 - 1], np.uint64), str(2**64 - 1))):
+        with pytest.raises(IndexError, match=f"{named}\\b"):
             bars[wrong]
+    with pytest.raises(TypeError, match="one dimension"):
+        bars[0, 1]
     for wrong in (None, 1.5, ["start"], True, {"a"}, [[1]], [0.5]):
         with pytest.raises(TypeError):
             bars[wrong]
@@ -123,12 +169,37 @@ def test_cases_and_loads(hall):
     snow = model.loads(case=2)
     assert set(snow.line["load_case"]) == {2} and len(snow) == 12 == len(snow.line)
     assert len(model.loads()) == sum(len(table) for table in model.loads())
-    assert len(model.loads(case=999)) == 0
     assert model.combinations[101] == {1: 1.35, 2: 1.5} == model.combinations.as_dict()[101]
     assert 101 in model.combinations and 999 not in model.combinations
     with pytest.raises(KeyError):
         model.combinations[999]
     assert model.groups.find("Câbles").number == 6
+
+
+def test_what_has_no_loads(hall):
+    model = tamur.read(hall)
+    assert len(model.loads(case=np.int64(2))) == 12 and len(model.loads(case=301)) == 0
+    for wrong in ("2", [2], 2.0, True, np.True_):
+        with pytest.raises(TypeError, match="load case is a number"):
+            model.loads(case=wrong)
+    with pytest.raises(KeyError, match="no load case 999"):
+        model.loads(case=999)
+    with pytest.raises(KeyError, match=r"m\.combinations\[101\]"):
+        model.loads(case=101)
+
+
+def test_what_is_not_found_by_a_wrong_type(hall):
+    model = tamur.read(hall)
+    for wrong in (None, 2.0, True, [2], b"Neige"):
+        with pytest.raises(TypeError, match="row is found by"):
+            model.cases.find(wrong)
+        with pytest.raises(TypeError, match="combination has a number"):
+            wrong in model.combinations
+        with pytest.raises(TypeError):
+            model.combinations[wrong if wrong != [2] else 2.5]
+    assert np.int32(101) in model.combinations
+    assert model.combinations[np.int32(101)] == model.combinations[101]
+    assert model.cases.find(np.int32(2)).title == model.cases.find(np.str_("Neige")).title
 
 
 def test_settings_version_and_messages(hall):
@@ -180,8 +251,22 @@ def test_findings():
         findings.of("note")) == len(findings)
     with pytest.raises(ValueError):
         findings.of("trouble")
+    errors = findings.of("error")
+    assert sum(errors.counts.values()) == len(errors)
+    assert set(errors.counts) == set(errors["code"])
+    assert findings[:0].counts == {}
+    assert findings[3:4].counts == {findings["code"][3]: 1} == findings[3:4][[0]].counts
     with pytest.raises(ValueError, match="check=True"):
         tamur.read(path).findings
+
+
+def test_counts_of_a_severity_are_of_all_findings():
+    model = tamur.read(SETTINGS + b"#Elements\n" + 10_005 * b"77 1\n", check=True)
+    counts = model.findings.counts
+    code = max(counts, key=counts.__getitem__)
+    assert counts[code] == 10_005 and len(model.findings) < 10_005
+    severity = model.findings[model.findings["code"] == code][0].severity
+    assert model.findings.of(severity).counts[code] == 10_005
 
 
 def test_diff(hall):
@@ -248,6 +333,56 @@ def test_arrays_cannot_be_changed(hall):
             bars[name][0] = bars[name][1]
     mine = bars["start"].copy()
     mine += 1
+
+
+@pytest.mark.parametrize("take", [slice(None), slice(0, 0), [2, 1, 0], [-1, 0]], ids=repr)
+def test_no_array_of_a_table_can_be_changed(hall, take):
+    model = tamur.read(hall)
+    for table in (model.surfaces[take], model.nodes[take]):
+        arrays = [table.rows, np.asarray(table)]
+        for name in table.columns:
+            column = table[name]
+            if isinstance(column, tamur.Ragged):
+                arrays += [column.values, column.offsets, column.lengths, *column]
+            else:
+                arrays.append(column)
+        assert not any(array.flags.writeable for array in arrays)
+    assert not model.sections.outline(0).flags.writeable
+
+
+def test_tables_are_structured_arrays_to_numpy(hall):
+    bars = tamur.read(hall).bars
+    rows = np.asarray(bars)
+    assert rows.dtype == bars.rows.dtype and rows["identifier"].tolist()[:2] == [101, 102]
+    assert np.shares_memory(rows, bars.rows)
+    mine = np.array(bars)
+    mine["identifier"] = 0
+    assert bars.__array__(copy=True).flags.writeable and bars["identifier"][0] == 101
+    assert np.asarray(bars, bars.rows.dtype).tobytes() == rows.tobytes()
+    wanted = np.dtype([(name, "<i8" if name == "identifier" else rows.dtype[name])
+                       for name in rows.dtype.names])
+    wide = np.asarray(bars, wanted)["identifier"]
+    assert wide.dtype == np.int64 and wide.tolist() == bars["identifier"].tolist()
+    with pytest.raises(ValueError, match="a copy"):
+        bars.__array__(wanted, copy=False)
+
+
+def test_rows_are_equal_by_their_values(hall):
+    model, other = tamur.read(hall), tamur.read(hall)
+    assert model.bars[0] == model.bars[0] == other.bars[0] and model.bars[0] != model.bars[1]
+    assert model.surfaces[0] == other.surfaces[0] != other.surfaces[1]
+    assert model.bars[0] in list(other.bars) and model.settings == other.settings
+    absent = model.materials[[-1]][0]
+    assert np.isnan(absent.modulus) and absent == other.materials[[-1]][0]
+    assert model.bars[0] != model.nodes[0] and model.bars[0] != 101
+    with pytest.raises(TypeError, match="unhashable"):
+        hash(model.bars[0])
+
+
+def test_texts_are_decoded_once_for_all_parts(hall):
+    bars = tamur.read(hall).bars
+    assert bars[[0]]["type"][0] is bars[[0]]["type"][0] is bars[0].type
+    assert bars[[1]]["labels"][0][0] is bars[1:]["labels"][0][0]
 
 
 def test_models_do_not_travel(hall):
