@@ -186,6 +186,11 @@ def test_what_has_no_loads(hall):
         model.loads(case=999)
     with pytest.raises(KeyError, match=r"m\.combinations\[101\]"):
         model.loads(case=101)
+    content = hall.read_bytes()
+    start = content.index(b"2 Neige")
+    end = content.index(b"#", start)
+    undeclared = tamur.read(content[:start] + content[end:])  # its loads are in the tables
+    assert undeclared.cases["number"].tolist() == [1] and len(undeclared.loads(case=2)) == 12
 
 
 def test_what_is_not_found_by_a_wrong_type(hall):
