@@ -112,6 +112,7 @@ std::set<int> WithParts(const LoadCases& cases, const std::vector<int>& numbers)
 }  // namespace
 
 Selection::Selection(const Structure& structure, const LoadCases& cases, const Wanted& wanted)
+    : isAll_(wanted.IsAll())
 {
     if (!wanted.groups.empty()) TakeGroups(structure, wanted.groups);
     if (!wanted.cases.empty()) TakeCases(structure, cases, wanted.cases);

@@ -40,6 +40,8 @@ class Selection {
         const auto& left = left_[static_cast<std::size_t>(kind)];
         return rank >= left.size() || !left[rank];
     }
+    // Whether nothing was chosen.
+    [[nodiscard]] bool IsAll() const { return isAll_; }
     // How many of a kind it leaves out.
     [[nodiscard]] std::size_t LeavesOut(Kind kind) const;
 
@@ -51,6 +53,7 @@ class Selection {
     void LeaveOut(const Elements& elements, IsTaken isTaken);
     void Drop(Kind kind, std::size_t rank);
 
+    bool isAll_ = true;
     // By kind, which ranks are left out; what is beyond the end is taken.
     std::array<std::vector<bool>, kKindCount> left_;
 };

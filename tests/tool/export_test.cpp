@@ -164,6 +164,27 @@ TEST(Export, TakesTheGroupsAndCasesThatItIsTold)
     EXPECT_EQ(exported({"--case", "3"}), (Found{{"11", "12"}, {"1", "2"}, {"22"}, {"31"}}));
 }
 
+TEST(Export, CallsSumsThoseOfTheWholeModelBesideAPartOfIt)
+{
+    const TemporaryFile model(TwoGroups());
+    const auto sums = [&](const std::vector<std::string>& options) {
+        const ExportFolder folder;
+        std::vector<std::string> arguments = {"export", model.Path(), "-o", folder / "m-csv"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        EXPECT_EQ(RunTool(arguments).exitCode, 0);
+        return ContentOfFile(folder / "m-csv/Model.csv");
+    };
+    const std::string all = sums({});
+    EXPECT_THAT(all, HasSubstr("\nlength of bars,"));
+    EXPECT_THAT(all, testing::Not(HasSubstr("of the whole model")));
+    for (const auto& options : {std::vector<std::string>{"--group", "Poutres"}, {"--case", "1"}}) {
+        const std::string part = sums(options);
+        EXPECT_THAT(part, HasSubstr("\nlength of bars of the whole model,"));
+        EXPECT_THAT(part, HasSubstr("\nsum of loads of the whole model,"));
+        EXPECT_THAT(part, testing::Not(HasSubstr("\nsum of loads,")));
+    }
+}
+
 TEST(Export, SaysWhatIsLostInBothLanguages)
 {
     const ExportFolder folder;

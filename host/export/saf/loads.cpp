@@ -178,9 +178,11 @@ class Loads {
             const bool isReversed = piece.first > piece.last;
             AddAlong(piece, isReversed ? to : from, isReversed ? from : to);
         }
+        const int partsOnBars = part_;
         for (const auto& [from, to] : pieces.gaps) {
             AddFree(place, {line.At(from), line.At(to)}, intensityAt(from), intensityAt(to));
         }
+        if (part_ > partsOnBars) model_.Lose(*load_, kFree);
     }
 
     [[nodiscard]] const char* LocationOf() const
@@ -243,7 +245,6 @@ class Loads {
         for (std::size_t i = 0; i < 3; ++i) {
             const double from = forces[i] * first, to = forces[i] * last;
             if (from == 0 && to == 0) continue;
-            if (i == 0 || part_ == 0) model_.Lose(*load_, kFree);
             Row row;
             row.Text(NextName("LF")).Text("Standard");
             AddValues(row, kDirections[i], from, to);

@@ -18,6 +18,13 @@ namespace tamur::host::saf {
 inline constexpr LossText kLoadWithoutCase = {
     LossType::kNot, {"its case is no load case", "son cas n'est pas un cas de charge"}};
 
+// Of a search that Model::steps ended: nobody knows what it would have found.
+inline constexpr LossText kSearchEnded = {
+    LossType::kNot,
+    {"what it lies on is not known: too much lies in one place, or has too many corners",
+     "ce sur quoi il est posé n'est pas connu : trop d'éléments au même endroit, ou trop de "
+     "points"}};
+
 struct Model {
     Model(const Source& from, ExportReport& to, Book& into);
 
@@ -60,7 +67,7 @@ struct Model {
     // What one load on a group becomes is a row for each element: of very many loads on very many
     // elements only so many rows are written as a file of that size can be about.
     Budget rows;
-    // Steps of searches.
+    // Steps of searches. When they are spent, what was not found may be there all the same.
     Budget steps;
 
  private:

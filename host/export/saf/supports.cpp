@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 #include "host/export/saf/labels.h"
 #include "host/export/saf/lines.h"
@@ -34,9 +35,34 @@ constexpr LossText kPartOfLine = {
     LossType::kPartly,
     {"a part of the line lies on no bar and on no edge: it is not written",
      "une partie de la ligne n'est sur aucun filaire ni bord : elle n'est pas écrite"}};
+constexpr LossText kPartNotKnown = {
+    LossType::kPartly,
+    {"too much lies in one place, or has too many corners: what was not found is not written",
+     "trop d'éléments au même endroit, ou trop de points : ce qui n'a pas été trouvé n'est pas "
+     "écrit"}};
 constexpr LossText kNotWhole = {LossType::kNot,
                                 {"a surface support that covers no whole surface",
                                  "un appui surfacique qui ne couvre aucun surfacique entier"}};
+constexpr LossText kPartOfSurface = {
+    LossType::kPartly,
+    {"a part of the area covers no whole surface: it is not written",
+     "une partie de l'aire ne couvre aucun surfacique entier : elle n'est pas écrite"}};
+constexpr LossText kHeldSurface = {
+    LossType::kNot,
+    {"a surface support that is rigid without a finite stiffness: under surfaces the format has "
+     "springs only",
+     "un appui surfacique rigide sans raideur finie : sous les surfaciques, le format n'a que des "
+     "ressorts"}};
+constexpr LossText kRigidSurface = {
+    LossType::kPartly,
+    {"a rigid surface support is written as springs of its stiffnesses",
+     "un appui surfacique rigide est écrit comme des ressorts de ses raideurs"}};
+constexpr LossText kStopSurface = {
+    LossType::kPartly,
+    {"a stop (butée) under a surface is written as springs of its stiffnesses, which hold upwards "
+     "too",
+     "une butée sous un surfacique est écrite comme des ressorts de ses raideurs, qui retiennent "
+     "aussi vers le haut"}};
 constexpr LossText kRotations = {LossType::kPartly,
                                  {"rotations of surface supports have no columns",
                                   "les rotations d'appuis surfaciques n'ont pas de colonnes"}};
@@ -55,37 +81,59 @@ constexpr LossText kPlateAxes = {LossType::kAssumed,
 
 using Stiffness = std::array<double, 6>;
 
+enum class Hold : std::uint8_t { kReleased, kFlexible, kHeld, kHeldDownwards };
+using Holds = std::array<Hold, 6>;
+
+// What a support does to the six freedoms.
+Holds HoldsOf(SupportCondition condition, const Stiffness& stiffness)
+{
+    constexpr std::size_t kVerticalMove = 2;
+    Holds holds = {};
+    if (condition == SupportCondition::kVoid) return holds;
+    const bool isElastic = condition == SupportCondition::kElastic;
+    const bool isAny =
+        std::any_of(stiffness.begin(), stiffness.end(), [](double value) { return value != 0; });
+    for (std::size_t i = 0; i < holds.size(); ++i) {
+        const bool isHeld = stiffness[i] != 0 || (!isAny && i < 3 && !isElastic);
+        if (!isHeld) continue;
+        if (isElastic && std::isfinite(stiffness[i])) {
+            holds[i] = Hold::kFlexible;
+        } else if (condition == SupportCondition::kStop && i == kVerticalMove) {
+            holds[i] = Hold::kHeldDownwards;
+        } else {
+            holds[i] = Hold::kHeld;
+        }
+    }
+    return holds;
+}
+
 // The words for the six freedoms and what is flexible, in MN and m.
 Row& AddFreedoms(Row& row, SupportCondition condition, const Stiffness& stiffness)
 {
-    const bool isAny =
-        std::any_of(stiffness.begin(), stiffness.end(), [](double value) { return value != 0; });
-    const auto isFlexible = [&](std::size_t i) {
-        return condition == SupportCondition::kElastic && stiffness[i] != 0 &&
-               std::isfinite(stiffness[i]);
-    };
+    constexpr const char* kWords[] = {"Free", "Flexible", "Rigid", "Compression only"};
+    const Holds holds = HoldsOf(condition, stiffness);
+    for (const Hold hold : holds) row.Text(kWords[static_cast<std::size_t>(hold)]);
     for (std::size_t i = 0; i < stiffness.size(); ++i) {
-        constexpr std::size_t kVerticalMove = 2;
-        const bool isHeld =
-            stiffness[i] != 0 || (!isAny && i < 3 && condition != SupportCondition::kElastic);
-        if (condition == SupportCondition::kVoid || !isHeld) {
-            row.Text("Free");
-        } else if (isFlexible(i)) {
-            row.Text("Flexible");
-        } else if (condition == SupportCondition::kStop && i == kVerticalMove) {
-            row.Text("Compression only");
-        } else {
-            row.Text("Rigid");
-        }
-    }
-    for (std::size_t i = 0; i < stiffness.size(); ++i) {
-        if (isFlexible(i)) {
+        if (holds[i] == Hold::kFlexible) {
             row.Number(stiffness[i] * 1e-6);
         } else {
             row.Skip();
         }
     }
     return row;
+}
+
+// The stiffnesses of translations under a surface, in MN and m; nothing when they cannot say that
+// it holds.
+std::optional<std::array<double, 3>> SpringsOf(const Holds& holds, const Stiffness& stiffness)
+{
+    std::array<double, 3> springs = {};
+    for (std::size_t i = 0; i < springs.size(); ++i) {
+        if (holds[i] == Hold::kReleased) continue;
+        if (stiffness[i] == 0 || !std::isfinite(stiffness[i])) return std::nullopt;
+        springs[i] = stiffness[i] * 1e-6;
+    }
+    return springs;
 }
 
 // Along the axes of the model, when the frame is turned by quarters only.
@@ -135,8 +183,7 @@ class Supports {
                 model_.Lose(support, kUnusableSupport);
                 continue;
             }
-            if (support.condition == SupportCondition::kRigid) model_.Lose(support, kRigid);
-            if (support.condition == SupportCondition::kStop) model_.Lose(support, kStop);
+            if (support.kind != Kind::kSurfaceSupport) CountAssumptions(support);
             const auto rank = static_cast<LONG>(support.rank);
             if (support.kind == Kind::kPointSupport) {
                 WritePoint(support, *onPoints_.At(rank));
@@ -158,6 +205,12 @@ class Supports {
         bool hasArea = false;
         if constexpr (requires { record.Surface; }) hasArea = record.Surface != 0;
         if (hasDamping || hasArea || record.GroupNumber != 0) model_.Lose(support, kSupportDamping);
+    }
+
+    void CountAssumptions(const Support& support)
+    {
+        if (support.condition == SupportCondition::kRigid) model_.Lose(support, kRigid);
+        if (support.condition == SupportCondition::kStop) model_.Lose(support, kStop);
     }
 
     void WritePoint(const Support& support, const TMRAppuiPonctuel& record)
@@ -201,13 +254,18 @@ class Supports {
         const bool isOnBars = !pieces.pieces.empty();
         if (!isOnBars) pieces = EdgesAlong(model_, line, candidates);
         const auto within = pieces.pieces.empty() ? SurfaceWith(model_, support) : std::nullopt;
-        if (pieces.pieces.empty() && !within) return model_.Lose(support, kOnNothing);
+        if (pieces.pieces.empty() && !within) {
+            return model_.Lose(support, model_.steps.IsSpent() ? kSearchEnded : kOnNothing);
+        }
         CountLosses(support, record);
         if (record.Angle != 0) model_.Lose(support, kLineAngle);
         const std::string name =
             NameOfElement(model_, lineNames_, support, record.ElemLabels, "Sl");
         if (within) return WriteWithin(support, *within, name);
-        if (!pieces.gaps.empty()) model_.Lose(support, kPartOfLine);
+        if (!pieces.gaps.empty()) {
+            const bool isKnown = isOnBars || !model_.steps.IsSpent();
+            model_.Lose(support, isKnown ? kPartOfLine : kPartNotKnown);
+        }
         int part = 0;
         for (const Piece& piece : pieces.pieces) {
             Row row;
@@ -244,26 +302,46 @@ class Supports {
     void WriteSurface(std::size_t place, const TMRAppuiSurfacique& record)
     {
         const Support& support = structure_.supports[place];
+        const Holds holds = HoldsOf(support.condition, support.stiffness);
+        const auto springs = SpringsOf(holds, support.stiffness);
+        if (!springs) return model_.Lose(support, kHeldSurface);
         const std::vector<Point> outline = OutlineOf(structure_, support);
         const Polygon polygon(outline);
-        int part = 0;
-        std::string name;
+        std::vector<Index> covered;
+        double area = 0;
         for (const Member& member : CandidatesOf(place)) {
             if (member.kind != Kind::kSurface || !Covers(polygon, member.index)) continue;
-            if (part == 0) {
-                CountLosses(support, record);
-                model_.Lose(support, kPlateAxes);
-                const auto& k = support.stiffness;
-                if (k[3] != 0 || k[4] != 0 || k[5] != 0) model_.Lose(support, kRotations);
-                name = NameOfElement(model_, surfaceNames_, support, record.ElemLabels, "Ss");
-            }
+            covered.push_back(member.index);
+            area += structure_.surfaces[member.index].area;
+        }
+        const bool isKnown = !model_.steps.IsSpent();
+        if (covered.empty()) return model_.Lose(support, isKnown ? kNotWhole : kSearchEnded);
+        // As much as the corners may be away from each other's.
+        const double slack = structure_.tolerance * polygon.Perimeter();
+        if (area < polygon.Area() - slack) {
+            model_.Lose(support, isKnown ? kPartOfSurface : kPartNotKnown);
+        }
+        CountLosses(support, record);
+        CountSurfaceLosses(support, holds);
+        const std::string name =
+            NameOfElement(model_, surfaceNames_, support, record.ElemLabels, "Ss");
+        for (int part = 0; part < static_cast<int>(covered.size()); ++part) {
             AddSurface(
-                support, member.index,
+                support, covered[static_cast<std::size_t>(part)], *springs,
                 part == 0 ? name : surfaceNames_.Take("", name + '-' + std::to_string(part + 1)),
                 part);
-            ++part;
         }
-        if (part == 0) model_.Lose(support, kNotWhole);
+    }
+
+    void CountSurfaceLosses(const Support& support, const Holds& holds)
+    {
+        model_.Lose(support, kPlateAxes);
+        if (support.condition == SupportCondition::kRigid) model_.Lose(support, kRigidSurface);
+        if (support.condition == SupportCondition::kStop) model_.Lose(support, kStopSurface);
+        if (std::any_of(holds.begin() + 3, holds.end(),
+                        [](Hold hold) { return hold != Hold::kReleased; })) {
+            model_.Lose(support, kRotations);
+        }
     }
 
     bool Covers(const Polygon& polygon, Index surface)
@@ -275,7 +353,8 @@ class Supports {
                });
     }
 
-    void AddSurface(const Support& support, Index surface, const std::string& name, int part)
+    void AddSurface(const Support& support, Index surface, const std::array<double, 3>& springs,
+                    const std::string& name, int part)
     {
         const Point normal = structure_.surfaces[surface].plane.normal;
         const double parts[] = {std::abs(normal.x), std::abs(normal.y), std::abs(normal.z)};
@@ -283,9 +362,8 @@ class Supports {
             std::max_element(std::begin(parts), std::end(parts)) - std::begin(parts));
         Row row;
         row.Text(name).Text(model_.surfaces[surface]).Skip().Text("Soil").Skip();
-        row.Number(support.stiffness[(across + 1) % 3] * 1e-6);
-        row.Number(support.stiffness[(across + 2) % 3] * 1e-6);
-        row.Text("Linear").Number(support.stiffness[across] * 1e-6).Number(0).Number(0);
+        row.Number(springs[(across + 1) % 3]).Number(springs[(across + 2) % 3]);
+        row.Text("Linear").Number(springs[across]).Number(0).Number(0);
         row.Skip().Text(model_.ids.Take(Kind::kSurfaceSupport, support.identifier, part));
         model_.book.Add(model_.layouts.surfaceSupport, row);
     }

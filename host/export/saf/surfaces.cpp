@@ -180,7 +180,7 @@ class Surfaces {
             if (!model_.Takes(line)) continue;
             const auto surface = SurfaceWith(model_, line);
             if (!surface) {
-                model_.Lose(line, kInNoSurface);
+                model_.Lose(line, model_.steps.IsSpent() ? kSearchEnded : kInNoSurface);
                 continue;
             }
             const auto record = records.At(static_cast<LONG>(line.rank));

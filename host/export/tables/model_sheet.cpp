@@ -67,25 +67,26 @@ class ModelSheet {
     void WriteSums()
     {
         const Sums sums = SumsOf(source_.structure, source_.cases);
+        const std::string whole = source_.selection.IsAll() ? "" : " of the whole model";
         for (const CaseSum& sum : sums.cases) {
             for (const auto& [frame, forces] : sum.byFrame) {
                 const std::string of =
                     "case " + std::to_string(sum.number) + ", frame " + std::to_string(frame);
                 for (std::size_t i = 0; i < forces.size(); ++i) {
-                    Row("sum of loads", of, std::string(kForceNames[i]), forces[i],
+                    Row("sum of loads" + whole, of, std::string(kForceNames[i]), forces[i],
                         i < 3 ? "N" : "N.m");
                 }
             }
         }
         for (std::size_t i = 0; i < sums.masses.size(); ++i) {
-            Row("sum of masses", {}, std::string(kMassNames[i]), sums.masses[i]);
+            Row("sum of masses" + whole, {}, std::string(kMassNames[i]), sums.masses[i]);
         }
         for (const auto& [sections, length] : sums.lengths) {
-            Row("length of bars", "section " + PlaceOf(sections.first),
+            Row("length of bars" + whole, "section " + PlaceOf(sections.first),
                 "section " + PlaceOf(sections.second), length, "m");
         }
         for (const auto& [thickness, area] : sums.areas) {
-            Row("area of surfaces", "thickness", thickness, area, "m2");
+            Row("area of surfaces" + whole, "thickness", thickness, area, "m2");
         }
     }
     static std::string PlaceOf(Index section)
