@@ -9,6 +9,8 @@ import sys
 import tempfile
 from typing import IO, TYPE_CHECKING, Any, Optional, Sequence, TypeVar, Union
 
+import numpy as np
+
 from ._errors import ImportRefused
 from ._library import ModelHandle
 from ._loads import Loads
@@ -93,7 +95,7 @@ class Model(ModelTables):
         has in part, and assumes. Raises OSError when it cannot be written, or is there already and
         `force` is not given.
         """
-        cases = [case] if isinstance(case, int) else list(case)
+        cases = [int(case)] if isinstance(case, (int, np.integer)) else list(case)
         groups = [group] if isinstance(group, str) else list(group)
         return self._checked().export(self.source, os.fsdecode(path), kind, cases, groups, force)
 

@@ -35,7 +35,7 @@ def cells(path):
 def test_export_of_a_part(hall, tmp_path):
     m = tamur.read(hall, check=True)
     m.export(tmp_path / "all", "csv")
-    m.export(tmp_path / "part", "csv", case=m.cases["number"][0].item())
+    m.export(tmp_path / "part", "csv", case=m.cases["number"][0])
     sizes = [len((tmp_path / folder / "ChargesLineaires.csv").read_bytes())
              for folder in ("all", "part")]
     assert sizes[1] < sizes[0]
