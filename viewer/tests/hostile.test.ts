@@ -70,7 +70,7 @@ test('a million labels open', async () => {
 
 test('a model with 150,000 cases opens, and each of them can be reached', async () => {
     const cases = Array.from({ length: 150000 }, (_, i) => `${i + 1} C${i + 1} 1 A 0`);
-    const loads = ['5 12 0 149000 1 0 0 0 0 0 0 1 1 0 0 -1000 0 0 0'];
+    const loads = ['5 12 0 1 0 0 0 0 0 0 0 149999 1 0 0 -1000 0 0 0'];
     const file = modelFile(
         'cases',
         `${kHead}#Cas\n${cases.join('\n')}\n#Elements\n${bar(1, '0 0 0', '5 0 0')}\n${loads.join('\n')}\n`,
@@ -86,6 +86,7 @@ test('a model with 150,000 cases opens, and each of them can be reached', async 
     await page.getByPlaceholder('Filter by number or title').fill('149999');
     await page.locator('.cases input[value="149999"]').check();
     assert.equal((await page.evaluate(() => window.tamur.state())).loadCase, 149999);
+    assert.equal((await page.evaluate(() => window.tamur.loads())).length, 1);
     await close();
 });
 
