@@ -1,5 +1,6 @@
 // The state of a view as the part of an address after its "#": #bar=12&case=3
-import { kindOfKey, kKinds } from './kinds';
+import { casesOf } from './cases';
+import { type Kind, kindOfKey, kKinds } from './kinds';
 import type { Item, Model } from './model';
 import type { Eye } from './scene/view';
 import { type ColourBy, kColourBy, type State } from './state';
@@ -11,6 +12,7 @@ export interface Address {
     state: Partial<State>;
     item: Item | undefined;
     eye: Eye | undefined;
+    missing: { kind: Kind | undefined; value: string }[]; // records, and cases, that the model has not
 }
 
 const rounded = (value: number): string => String(Number(value.toPrecision(8)));
@@ -26,10 +28,9 @@ function itemKey(model: Model, item: Item): [string, string] {
     return [item.kind.key, place > 1 ? `${identifier}.${place}` : String(identifier)];
 }
 
-function itemOf(model: Model, key: string, value: string): Item | undefined {
-    const kind = kindOfKey(key);
+function itemOf(model: Model, kind: Kind, value: string): Item | undefined {
     const parts = /^(-?\d+)(?:\.(\d+))?$/.exec(value);
-    if (!kind || !parts) return undefined;
+    if (!parts) return undefined;
     let item = model.find(kind, Number(parts[1]));
     const { identifier } = kind;
     for (let place = 1; item && identifier && place < Number(parts[2] ?? 1); ++place) {
@@ -74,9 +75,13 @@ export function readAddress(model: Model, hash: string): Address {
     const state: Partial<State> = {};
     let item: Item | undefined;
     let eye: Eye | undefined;
+    const missing: Address['missing'] = [];
     for (const [key, value] of parts) {
-        if (key === 'case' && /^-?\d+$/.test(value)) state.loadCase = Number(value);
-        else if (key === 'colour' && kColourBy.includes(value as ColourBy))
+        if (key === 'case') {
+            const found = casesOf(model).find(({ number }) => String(number) === value);
+            if (found) state.loadCase = found.number;
+            else missing.push({ kind: undefined, value });
+        } else if (key === 'colour' && kColourBy.includes(value as ColourBy))
             state.colourBy = value as ColourBy;
         else if (key === 'show')
             for (const name of kSwitches) state[name] = value.split('.').includes(name);
@@ -93,7 +98,12 @@ export function readAddress(model: Model, hash: string): Address {
                     target: { x: n[3]! - x, y: n[4]! - y, z: n[5]! - z },
                 };
             }
-        } else item ??= itemOf(model, key, value);
+        } else {
+            const kind = kindOfKey(key);
+            const found = kind && itemOf(model, kind, value);
+            if (kind && !found) missing.push({ kind, value });
+            item ??= found;
+        }
     }
-    return { state, item, eye };
+    return { state, item, eye, missing };
 }

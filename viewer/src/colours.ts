@@ -93,7 +93,7 @@ export class Colouring {
             const { rows } = model.tableOf(ofKind);
             for (let rank = 0; rank < rows; ++rank) this.countIn(model.item(ofKind, rank));
         }
-        this.categories.push(...this.found);
+        for (const category of this.found) this.categories.push(category);
         if (by !== 'kind' && by !== 'finding') {
             this.categories.sort((a, b) => b.count - a.count);
             this.categories.forEach((category, i) => (category.colour = paletteColour(i)));

@@ -1,4 +1,4 @@
-import { readAddress } from './address';
+import { type Address, readAddress } from './address';
 import { Colouring, kOfSeverities } from './colours';
 import { readPage } from './data/read';
 import { Findings } from './findings';
@@ -9,7 +9,7 @@ import { Model, type Item } from './model';
 import { Stage } from './scene/stage';
 import { States } from './scene/states';
 import { kWhole, Store } from './state';
-import { type Language, languageOf, textsIn } from './text';
+import { kindNoun, type Language, languageOf, textsIn } from './text';
 import type { Context } from './ui/context';
 import { makePage, type Page } from './ui/page';
 import { applyStates } from './visibility';
@@ -84,6 +84,7 @@ class App {
         }
         this.build();
         this.follow();
+        this.sayMissing(address);
         if (address.eye && this.stage) this.stage.view.eye = address.eye;
         else if (address.item) this.goTo(address.item);
         window.addEventListener('hashchange', () => this.goToAddress());
@@ -224,10 +225,20 @@ class App {
     }
 
     private goToAddress(): void {
-        const { state, item, eye } = readAddress(this.model, location.hash);
+        const address = readAddress(this.model, location.hash);
+        const { state, item, eye } = address;
+        this.sayMissing(address);
         this.store.change({ ...state, selected: item ? [item.number] : [] });
         if (eye && this.stage) this.stage.view.eye = eye;
         else if (item) this.goTo(item);
+    }
+
+    private sayMissing({ missing }: Address): void {
+        const texts = textsIn(this.language);
+        for (const { kind, value } of missing.slice(0, 5)) {
+            const name = kind ? kindNoun(texts, kind) : texts.case.toLowerCase();
+            this.say(texts.missing.replace('@', () => `${name} ${value.slice(0, 40)}`));
+        }
     }
 
     private say(text: string): void {

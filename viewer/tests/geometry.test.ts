@@ -13,12 +13,14 @@ import {
     frameOfSupport,
     turnedAboutX,
 } from '../src/geometry/frames';
-import { loadsOfCase } from '../src/geometry/loads';
+import { type DrawnLoad, labelledArrows, loadsOfCase } from '../src/geometry/loads';
 import { offsetOf, outlineOf, type Section } from '../src/geometry/outline';
 import { heldBy } from '../src/geometry/supports';
 import { trianglesOf } from '../src/geometry/triangles';
 import { add, cross, length, scale, subtract } from '../src/geometry/vectors';
+import { kind } from '../src/kinds';
 import { Model } from '../src/model';
+import { spanOf } from '../src/scene/others';
 import { partsOf } from '../src/scene/supports';
 import { dataOf, pageOf, root, sample } from './support';
 
@@ -177,11 +179,56 @@ test('supports are drawn by what they hold', () => {
     assert.equal(parts('rigid', [0, 0, 1, 0, 0, 0]), 'cone2');
     assert.equal(parts('rigid', [1, 0, 1, 0, 1, 0]), 'cone0 cone2 plate1');
     assert.equal(parts('elastic', [1, 1, 1, 0, 0, 0]), 'spring2');
-    assert.equal(parts('elastic', [1, 1, 1, 1, 0, 0]), 'spring2 wheel2');
+    assert.equal(parts('elastic', [1, 1, 1, 1, 0, 0]), 'spring2 wheel0');
+    assert.equal(parts('elastic', [1, 1, 1, 0, 1, 1]), 'spring2 wheel1 wheel2');
     assert.equal(parts('elastic', [1, 0, 0, 0, 0, 1]), 'spring0 wheel2');
     assert.equal(parts('elastic', [0, 0, 0, 0, 0, 0]), 'ring2');
     assert.equal(parts('stop', [1, 1, 1, 0, 0, 0]), 'stop2');
     assert.equal(parts('void', [1, 1, 1, 1, 1, 1]), 'ring2');
+});
+
+const sizesOf = (load: DrawnLoad): number[] =>
+    labelledArrows(load).map(({ vector }) => Math.round(length(vector) * 1e6) / 1e6);
+
+test('loads that vary have the smallest and the largest value written, forces and moments apart', () => {
+    const load = (table: string, forces: number[], moments: number[] = []): DrawnLoad => {
+        const arrow = (isMoment: boolean) => (size: number, x: number) => ({
+            at: at(x, 0, 0),
+            vector: at(0, 0, size),
+            isMoment,
+        });
+        return {
+            item: { kind: kind(table), rank: 0, number: 0 },
+            arrows: [...forces.map(arrow(false)), ...moments.map(arrow(true))],
+            ridge: [],
+            isArea: false,
+        };
+    };
+    assert.deepEqual(sizesOf(load('ChargesPonctuelles', [-10], [4000])), [10, 4000]);
+    assert.deepEqual(
+        labelledArrows(load('ChargesPonctuelles', [-10], [4000])).map((one) => one.isMoment),
+        [false, true],
+    );
+    const trapezoid = load('ChargesLineaires', [-1000, -1500, -2000], [3, 3, 3]);
+    assert.deepEqual(sizesOf(trapezoid), [1000, 2000, 3]);
+    assert.deepEqual(
+        labelledArrows(trapezoid).map((one) => one.at.x),
+        [0, 2, 1],
+    );
+    assert.deepEqual(sizesOf(load('ChargesLineaires', [0, 5, 10])), [10]);
+    assert.deepEqual(sizesOf(load('ChargesLineaires', [-10, 0, 10])), [10, 10]);
+    assert.deepEqual(sizesOf(load('ChargesSurfaciques', [7, 7, 7, 7])), [7]);
+    assert.deepEqual(sizesOf(load('ChargesSurfaciques', [])), []);
+});
+
+test('the span of a wall is drawn over a part of it', () => {
+    const corners = [at(0, 0, 0), at(20, 0, 0), at(20, 0, 5), at(0, 0, 5)];
+    const lengthOf = (direction: number): Point => {
+        const { tips } = spanOf(corners, direction)!;
+        return subtract(tips[0], tips[1]);
+    };
+    near(lengthOf(0), at(6, 0, 0), 'along the first side');
+    near(lengthOf(1), at(0, 0, 1.5), 'across it');
 });
 
 test('loads have the sizes and directions of their columns', async () => {
@@ -191,11 +238,12 @@ test('loads have the sizes and directions of their columns', async () => {
     const line = loads.find(({ item }) => model.identifierOf(item) === 515)!;
     near(line.arrows[0]?.vector, at(0, 0, -4500), 'the first arrow of a line load');
     near(add(line.arrows[0]!.at, model.centre), at(0, 10, 3.2), 'its place');
-    assert.equal(line.label?.size, 4500);
+    assert.deepEqual(sizesOf(line), [4500]);
     const surface = loads.find(({ item }) => model.identifierOf(item) === 506)!;
     for (const { vector } of surface.arrows)
         near(vector, at(0, 0, -1500), 'an arrow of a surface load');
     assert.ok(surface.arrows.length > 4);
+    assert.deepEqual(sizesOf(surface), [1500]);
 });
 
 test('outlines are placed at the ends of their bars', async () => {

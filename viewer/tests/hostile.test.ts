@@ -68,6 +68,28 @@ test('a million labels open', async () => {
     await close();
 });
 
+test('a model with 150,000 cases opens, and each of them can be reached', async () => {
+    const cases = Array.from({ length: 150000 }, (_, i) => `${i + 1} C${i + 1} 1 A 0`);
+    const loads = ['5 12 0 1 0 0 0 0 0 0 0 149999 1 0 0 -1000 0 0 0'];
+    const file = modelFile(
+        'cases',
+        `${kHead}#Cas\n${cases.join('\n')}\n#Elements\n${bar(1, '0 0 0', '5 0 0')}\n${loads.join('\n')}\n`,
+    );
+    const { page, close } = await open(pageOf(file), '#case=140000');
+    await page.getByRole('tab', { name: 'Loads' }).click();
+    assert.equal((await page.evaluate(() => window.tamur.counts())).Cas, 150000);
+    const entries = page.locator('.cases input');
+    assert.ok((await entries.count()) < 400);
+    assert.equal(await page.locator('.cases input:checked').inputValue(), '140000');
+    await page.getByRole('button', { name: 'Show more' }).click();
+    assert.ok((await entries.count()) > 500);
+    await page.getByPlaceholder('Filter by number or title').fill('149999');
+    await page.locator('.cases input[value="149999"]').check();
+    assert.equal((await page.evaluate(() => window.tamur.state())).loadCase, 149999);
+    assert.equal((await page.evaluate(() => window.tamur.loads())).length, 1);
+    await close();
+});
+
 // Else what is selected would cover what is beside it.
 const kThin = '#Geometries\nFIL 1e-5 1 1 1e-9 1e-9 1e-9 1 1 1 1 1 0 C 0.001\n';
 

@@ -208,6 +208,89 @@ test('a case shows its loads and no others', async () => {
 
 const kHostile = '</script><img/src=x/onerror=alert(1)>';
 
+test('what is written over the picture is there when the page opens', async () => {
+    const { page, close } = await open(pageOf(sample('portique')), '#case=2');
+    // The observer of the size has called by then.
+    await page.waitForTimeout(500);
+    const painted = await page.evaluate(() => {
+        const canvas = document.querySelector<HTMLCanvasElement>('canvas.overlay')!;
+        const { data, width, height } = canvas
+            .getContext('2d')!
+            .getImageData(0, 0, canvas.width, canvas.height);
+        let [axes, values] = [0, 0];
+        for (let i = 3; i < data.length; i += 4) {
+            if (data[i] === 0) continue;
+            const [x, y] = [((i - 3) / 4) % width, Math.floor((i - 3) / 4 / width)];
+            if (x < 80 && y > height - 90) ++axes;
+            else ++values;
+        }
+        return { axes, values };
+    });
+    assert.ok(painted.axes > 50 && painted.values > 50, JSON.stringify(painted));
+    await close();
+});
+
+test('an address of what is missing says so', async () => {
+    const { page, close } = await open(pageOf(sample('portique')), '#bar=123456&case=777');
+    const notes = page.locator('#notes');
+    assert.match(await notes.innerText(), /no bar 123456 in this model/);
+    assert.match(await notes.innerText(), /no case 777 in this model/);
+    assert.equal((await page.evaluate(() => window.tamur.state())).loadCase, undefined);
+    await close();
+    const french = await open(pageOf(sample('portique')), '#bar=123456', { locale: 'fr-FR' });
+    assert.match(
+        await french.page.locator('#notes').innerText(),
+        /Introuvable dans ce modèle : filaire 123456/,
+    );
+    await french.close();
+});
+
+test('a record begins with what it is, and ends with what is least asked for', async () => {
+    const { page, close } = await open(pageOf(sample('batiment')), '#bar=1&table=Filaires');
+    await page.locator('.grid-head .sort').first().waitFor();
+    const heads = (await page.locator('.grid-head .sort').allInnerTexts()).map((text) =>
+        text.replace(/[^\w() ]/g, '').trim(),
+    );
+    const first = [
+        'Number',
+        'Label',
+        'Type',
+        'Group',
+        'Section at start',
+        'Section at end',
+        'Material',
+        'Release at start',
+        'Release at end',
+        'Length (whole)',
+    ];
+    assert.deepEqual(heads.slice(0, first.length), first);
+    const item = await page.evaluate(() => window.tamur.counts().Filaires);
+    assert.ok(item! > 0);
+    await page.locator('.rows .grid-row').first().click();
+    const fields = await page.locator('.fields th').allInnerTexts();
+    assert.deepEqual(fields.slice(0, first.length), first);
+    assert.deepEqual(fields.slice(-4), [
+        'Remarks',
+        'Centre of gravity',
+        'Number of labels',
+        'Line of the file',
+    ]);
+    await close();
+});
+
+test('the badge of findings is the sum of the chips', async () => {
+    const { page, close } = await open(pageOf(sample('erreurs')));
+    const badge = Number(await page.locator('#tab-findings .badge').innerText());
+    await page.locator('#tab-findings').click();
+    const chips = await page.locator('.chip[class*=severity]').allInnerTexts();
+    assert.equal(
+        chips.reduce((sum, text) => sum + parseInt(text, 10), 0),
+        badge,
+    );
+    assert.ok(chips.some((text) => text.includes('note')));
+    await close();
+});
+
 test('texts of a model are texts', async () => {
     const file = modelFile(
         'hostile-texts',

@@ -5,7 +5,7 @@ import type { Item, Model } from '../model';
 import type { Bars } from './bars';
 import { kBars } from './bars';
 import { type Frame, frameOfAxis, frameOfPolygon, kGlobal, toGlobal } from './frames';
-import { add, between, dot, length, scale, subtract } from './vectors';
+import { add, between, dot, extentOf, length, scale, subtract } from './vectors';
 
 export const kPointLoads = kind('ChargesPonctuelles');
 export const kLineLoads = kind('ChargesLineaires');
@@ -26,7 +26,6 @@ export interface DrawnLoad {
     arrows: Arrow[];
     ridge: number[]; // which arrows a line joins at their tails, in this order
     isArea: boolean; // per unit of length or area: sizes are compared among themselves
-    label: { at: Arrow; size: number; isMoment: boolean } | undefined; // the largest
 }
 
 const kFrameKinds = { bar: kBars, surface: kind('Surfaciques') } as const;
@@ -69,7 +68,7 @@ function pointLoad(model: Model, bars: Bars, item: Item, [at]: Point[]): DrawnLo
     const { force, moment } = vectors(model, item, frameOf(model, bars, item, at ? [at] : []));
     if (at && length(force) > 0) arrows.push({ at, vector: force, isMoment: false });
     if (at && length(moment) > 0) arrows.push({ at, vector: moment, isMoment: true });
-    return withLabel({ item, arrows, ridge: [], isArea: false, label: undefined });
+    return { item, arrows, ridge: [], isArea: false };
 }
 
 function lineLoad(model: Model, bars: Bars, item: Item, corners: Point[], step: number): DrawnLoad {
@@ -93,7 +92,7 @@ function lineLoad(model: Model, bars: Bars, item: Item, corners: Point[], step: 
                 arrows.push({ at, vector: scale(moment, intensity), isMoment: true });
         }
     }
-    return withLabel({ item, arrows, ridge, isArea: false, label: undefined });
+    return { item, arrows, ridge, isArea: false };
 }
 
 // Linear over the plane by the values at the first three corners; their mean where these are on one
@@ -134,9 +133,8 @@ function isInside(frame: Frame, corners: Point[], point: Point): boolean {
 
 // Points of a grid along the axes of the polygon, in it.
 function gridIn(frame: Frame, corners: Point[], step: number): Point[] {
-    const us = corners.map((corner) => dot(corner, frame.x));
-    const vs = corners.map((corner) => dot(corner, frame.y));
-    const [u0, u1, v0, v1] = [Math.min(...us), Math.max(...us), Math.min(...vs), Math.max(...vs)];
+    const [u0, u1] = extentOf(corners.map((corner) => dot(corner, frame.x)));
+    const [v0, v1] = extentOf(corners.map((corner) => dot(corner, frame.y)));
     const height = dot(corners[0]!, frame.z);
     const countU = Math.min(7, Math.max(1, Math.round((u1 - u0) / step)));
     const countV = Math.min(7, Math.max(1, Math.round((v1 - v0) / step)));
@@ -177,16 +175,28 @@ function surfaceLoad(
             for (const point of gridIn(frame, corners, 2 * step)) push(point);
         }
     }
-    return withLabel({ item, arrows, ridge, isArea: true, label: undefined });
+    return { item, arrows, ridge, isArea: true };
 }
 
-function withLabel(load: DrawnLoad): DrawnLoad {
-    // The middle one of the largest: at a corner it would be among those of others.
-    const sizes = load.arrows.map(({ vector }) => length(vector));
-    const size = Math.max(0, ...sizes);
-    const largest = load.arrows.filter((_, i) => sizes[i] === size);
-    const at = largest[Math.floor(largest.length / 2)];
-    return at && size > 0 ? { ...load, label: { at, size, isMoment: at.isMoment } } : load;
+// Where its values are written: where the force is largest, and where it is smallest when it varies; the
+// same for the moment.
+export function labelledArrows({ arrows }: DrawnLoad): Arrow[] {
+    return [false, true].flatMap((isMoment) => {
+        const own = arrows.filter((arrow) => arrow.isMoment === isMoment);
+        const size = extentOf(own.map(({ vector }) => length(vector)))[1];
+        const largest = own.find(({ vector }) => length(vector) === size);
+        if (!largest || size === 0) return [];
+        // With a sign: a load may turn round on its way.
+        const sizes = own.map(({ vector }) => dot(vector, scale(largest.vector, 1 / size)));
+        const [low, high] = extentOf(sizes);
+        // The middle one of those: at a corner it would be among those of others.
+        const middleAt = (value: number): Arrow[] => {
+            const same = own.filter((_, i) => Math.abs(sizes[i]! - value) <= 1e-9 * size);
+            return same.slice(same.length >> 1, (same.length >> 1) + 1);
+        };
+        const isVaried = high - low > 1e-9 * size;
+        return [...(isVaried && low !== 0 ? middleAt(low) : []), ...middleAt(high)];
+    });
 }
 
 const kDrawnKinds = [kPointLoads, kLineLoads, kSurfaceLoads];

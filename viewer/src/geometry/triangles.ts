@@ -29,7 +29,7 @@ export function trianglesOf(outline: Point[], openings: Point[][] = []): Triangl
     for (const opening of openings) {
         if (opening.length < 3 || !opening.every(isSensible)) continue;
         holes.push(points.length);
-        points.push(...opening);
+        for (const point of opening) points.push(point);
         flat(frame, origin, opening, plane);
     }
     return { points, corners: earcut(plane, holes, 2) };

@@ -21,6 +21,16 @@ export const cross = (a: Point, b: Point): Point => ({
     y: a.z * b.x - a.x * b.z,
     z: a.x * b.y - a.y * b.x,
 });
+// A loop: values of hostile models are too many for the parameters of a call.
+export function extentOf(values: Iterable<number>): [low: number, high: number] {
+    let [low, high] = [Infinity, -Infinity];
+    for (const value of values) {
+        if (value < low) low = value;
+        if (value > high) high = value;
+    }
+    return [low, high];
+}
+
 export const length = (a: Point): number => Math.sqrt(dot(a, a));
 export const normalized = (a: Point): Point => scale(a, 1 / length(a));
 export const between = (a: Point, b: Point, place: number): Point =>

@@ -2,8 +2,8 @@
 import type { Object3D } from 'three';
 
 import type { Point } from '../data/table';
-import { frameOfPolygon, kGlobal } from '../geometry/frames';
-import { add, length, middleOf, scale, subtract } from '../geometry/vectors';
+import { type Frame, frameOfPolygon, kGlobal } from '../geometry/frames';
+import { add, dot, extentOf, middleOf, scale, subtract } from '../geometry/vectors';
 import { type Kind, kind } from '../kinds';
 import type { Model } from '../model';
 import { Segments, Symbols } from './builders';
@@ -43,8 +43,24 @@ export function drawPoints(
 }
 
 const kWalls = kind('Parois');
+const kSpanPart = 0.3;
 
-// The direction of the span as an arrow with two heads: 0 along x of the wall, else along y.
+// The direction of the span as an arrow with two heads: 0 along x of the wall, else along y. It is as
+// long as a part of the wall in that direction.
+export function spanOf(
+    corners: Point[],
+    direction: number,
+): { frame: Frame; tips: [Point, Point] } | undefined {
+    const own = frameOfPolygon(corners);
+    if (!own) return undefined;
+    const { x, y, z } = own;
+    const frame = direction === 0 ? own : { x: y, y: scale(x, -1), z };
+    const [low, high] = extentOf(corners.map((corner) => dot(corner, frame.x)));
+    const half = scale(frame.x, (kSpanPart * (high - low)) / 2);
+    const middle = middleOf(corners);
+    return { frame, tips: [add(middle, half), subtract(middle, half)] };
+}
+
 function addSpan(
     corners: Point[],
     direction: number,
@@ -52,16 +68,12 @@ function addSpan(
     lines: Segments,
     heads: Symbols,
 ): void {
-    const frame = frameOfPolygon(corners);
-    if (!frame) return;
-    const middle = middleOf(corners);
-    const size = Math.sqrt(length(subtract(corners[2]!, corners[0]!))) / 2;
-    const axis = direction === 0 ? frame.x : frame.y;
-    const across = direction === 0 ? frame.y : scale(frame.x, -1);
-    const tips = [add(middle, scale(axis, size)), add(middle, scale(axis, -size))] as const;
+    const span = spanOf(corners, direction);
+    if (!span) return;
+    const { frame, tips } = span;
     lines.add(tips[0], tips[1], item);
-    heads.add(tips[0], { x: axis, y: across, z: frame.z }, 10, item);
-    heads.add(tips[1], { x: scale(axis, -1), y: scale(across, -1), z: frame.z }, 10, item);
+    heads.add(tips[0], frame, 10, item);
+    heads.add(tips[1], { x: scale(frame.x, -1), y: scale(frame.y, -1), z: frame.z }, 10, item);
 }
 
 export function drawWalls(

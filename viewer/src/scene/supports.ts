@@ -48,16 +48,12 @@ export function partsOf({ condition, directions }: Held): [Shape, axis: number][
     const [x, y, z, ...rotations] = directions;
     if (x && y && z) {
         const turns = rotations.filter((isHeld) => isHeld).length;
+        const wheels = [0, 1, 2].filter((axis) => rotations[axis]);
         if (condition === 'rigid' && turns === 3) return [['block', 0]];
         if (condition === 'rigid' && turns === 0) return [['pyramid', 0]];
         // One for three directions: below, like the others.
         if (condition === 'elastic')
-            return turns > 0
-                ? [
-                      ['spring', 2],
-                      ['wheel', 2],
-                  ]
-                : [['spring', 2]];
+            return [['spring', 2], ...wheels.map((axis): [Shape, number] => ['wheel', axis])];
         if (condition === 'stop' && turns === 0) return [['stop', 2]];
     }
     const ofTranslation =

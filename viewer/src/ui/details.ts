@@ -5,6 +5,7 @@ import { kindOfTable } from '../kinds';
 import { fieldName } from '../text/fields';
 import type { Item } from '../model';
 import { nameOf, numberText, titleOf } from '../names';
+import { inOrder } from './columnOrder';
 import type { Context } from './context';
 import { button, fill, h } from './dom';
 import { meaningOf } from './meanings';
@@ -83,9 +84,8 @@ function findingsOf({ findings, language }: Context, item: Item): HTMLElement | 
 
 function fields(context: Context, item: Item): HTMLElement {
     const { model, texts, language } = context;
-    const rows = model
-        .tableOf(item.kind)
-        .columns.filter((column) => column.name !== 'line')
+    const rows = inOrder(model.tableOf(item.kind).columns)
+        .filter((column) => column.name !== 'line')
         .map((column) =>
             h(
                 'tr',

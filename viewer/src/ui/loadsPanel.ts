@@ -1,5 +1,6 @@
 // Load cases: one is shown at a time; combinations and envelopes tell of which cases they are.
 import { groupTitles } from '../colours';
+import { type Case, casesOf } from '../cases';
 import { itemsOfCase } from '../geometry/loads';
 import { kind } from '../kinds';
 import type { Model } from '../model';
@@ -11,52 +12,15 @@ import { caseTypeName } from './meanings';
 const kSelfWeights = kind('ChargesPoidsPropre');
 const kThermals = kind('ChargesThermiques');
 
-interface Case {
-    number: number;
-    title: string | undefined; // nothing: the file has no such case
-    type: number;
-    loads: number;
-}
-
-// Those of the file, then those that only loads name.
-export function casesOf(model: Model): Case[] {
-    const counts = new Map<number, number>();
-    for (const table of [
-        'ChargesPonctuelles',
-        'ChargesLineaires',
-        'ChargesSurfaciques',
-        'ChargesPoidsPropre',
-        'ChargesThermiques',
-    ]) {
-        for (const number of model.data.table(table).column('NumCas').raw)
-            counts.set(number, (counts.get(number) ?? 0) + 1);
-    }
-    const table = model.data.table('Cas');
-    const cases: Case[] = [];
-    const known = new Set<number>();
-    for (let row = 0; row < table.rows; ++row) {
-        const number = table.column('Num').number(row);
-        if (known.has(number)) continue;
-        known.add(number);
-        cases.push({
-            number,
-            title: table.column('Titre').text(row) ?? '',
-            type: table.column('Type').number(row),
-            loads: counts.get(number) ?? 0,
-        });
-    }
-    for (const [number, loads] of counts) {
-        if (!known.has(number)) cases.push({ number, title: undefined, type: 1, loads });
-    }
-    return cases;
-}
+const kStep = 300; // of cases at once
+const kMostParts = 500; // of a combination or an envelope
 
 export function makeLoadsPanel(context: Context, element: HTMLElement): void {
     const { store, texts, model } = context;
     const cases = casesOf(model);
     const name = newId();
     const list = h('div', { class: 'cases', role: 'radiogroup', 'aria-label': texts.cases });
-    const digits = Math.max(...cases.map(({ number }) => String(number).length));
+    const digits = cases.reduce((most, { number }) => Math.max(most, String(number).length), 1);
     list.style.setProperty('--digits', `${digits}ch`);
     const choice = (
         number: number | undefined,
@@ -71,32 +35,70 @@ export function makeLoadsPanel(context: Context, element: HTMLElement): void {
         });
         return h('label', { class: 'case' }, radio, ...content);
     };
-    list.append(choice(undefined, h('span', { class: 'grow' }, texts.noCase)));
-    for (const { number, title, type, loads } of cases) {
-        list.append(
-            choice(
-                number,
-                h('span', { class: 'number' }, number),
-                h(
-                    'span',
-                    { class: 'grow' },
-                    title ?? texts.missingCase,
-                    ' ',
-                    h('span', { class: 'quiet' }, caseTypeName(texts, type)),
-                ),
-                loads > 0 ? h('span', { class: 'count' }, loads) : undefined,
+    const entry = ({ number, title, type, loads }: Case): HTMLElement =>
+        choice(
+            number,
+            h('span', { class: 'number' }, number),
+            h(
+                'span',
+                { class: 'grow' },
+                title ?? texts.missingCase,
+                ' ',
+                h('span', { class: 'quiet' }, caseTypeName(texts, type)),
             ),
+            loads > 0 ? h('span', { class: 'count' }, loads) : undefined,
         );
-    }
+    let shown = kStep;
+    let wanted = '';
+    // The one that is chosen is always among them.
+    const showList = (): void => {
+        const found = cases.filter(({ number, title }) =>
+            `${number} ${title ?? ''}`.toLowerCase().includes(wanted),
+        );
+        const first = found.slice(0, shown);
+        const chosen = cases.find(({ number }) => number === store.state.loadCase);
+        if (chosen && !first.includes(chosen)) first.unshift(chosen);
+        fill(
+            list,
+            choice(undefined, h('span', { class: 'grow' }, texts.noCase)),
+            ...first.map(entry),
+            found.length > shown
+                ? button(`${texts.more} (${found.length - shown})`, () => {
+                      shown += kStep;
+                      showList();
+                  })
+                : undefined,
+        );
+    };
+    showList();
+    const filter = h('input', {
+        type: 'search',
+        placeholder: texts.filterCases,
+        'aria-label': texts.filterCases,
+        input: () => {
+            wanted = filter.value.trim().toLowerCase();
+            shown = kStep;
+            showList();
+        },
+    });
     const detail = h('div', { class: 'case-detail' });
     element.append(
-        h('div', { class: 'load-options' }, scaleSlider(context), valuesSwitch(context)),
+        h(
+            'div',
+            { class: 'load-options' },
+            scaleSlider(context),
+            valuesSwitch(context),
+            cases.length > kStep ? filter : undefined,
+        ),
         list,
         detail,
     );
     store.on(['loadCase', 'panel'], () => {
-        for (const radio of list.querySelectorAll('input')) {
-            const isChosen = radio.value === String(store.state.loadCase ?? '');
+        const value = String(store.state.loadCase ?? '');
+        const radios = (): HTMLInputElement[] => [...list.querySelectorAll('input')];
+        if (!radios().some((radio) => radio.value === value)) showList();
+        for (const radio of radios()) {
+            const isChosen = radio.value === value;
             if (isChosen) radio.closest('label')!.scrollIntoView({ block: 'nearest' });
             radio.checked = isChosen;
         }
@@ -174,31 +176,33 @@ function factored(context: Context, number: number): HTMLElement | undefined {
                 { class: 'link' },
             ),
         );
-    const list = (heading: string, entries: HTMLElement[]): HTMLElement =>
-        h('div', {}, h('h4', {}, heading), h('ul', { class: 'factors' }, ...entries));
+    const list = (heading: string, parts: number[], factors?: number[]): HTMLElement =>
+        h(
+            'div',
+            {},
+            h('h4', {}, heading),
+            h(
+                'ul',
+                { class: 'factors' },
+                ...parts
+                    .slice(0, kMostParts)
+                    .map((of, i) => entry(of, factors && (factors[i] ?? 0))),
+            ),
+            parts.length > kMostParts
+                ? h('p', { class: 'quiet' }, `${parts.length - kMostParts} ${texts.notListed}`)
+                : undefined,
+            h('p', { class: 'quiet' }, texts.chooseCase),
+        );
     const combinations = model.data.table('Combinaisons');
     const row = combinations.column('iNumCas').raw.indexOf(number);
     if (row >= 0) {
         const factors = combinations.column('pCoeff').numbers(row);
-        return list(
-            texts.combines,
-            combinations
-                .column('pNumCas')
-                .numbers(row)
-                .map((of, i) => entry(of, factors[i] ?? 0)),
-        );
+        return list(texts.combines, combinations.column('pNumCas').numbers(row), factors);
     }
     const envelopes = model.data.table('Enveloppes');
     const envelope = envelopes.column('iNumCas').raw.indexOf(number);
     if (envelope < 0) return undefined;
-    return list(
-        texts.envelopes,
-        envelopes
-            .column('pCases')
-            .numbers(envelope)
-            .slice(0, 500)
-            .map((of) => entry(of, undefined)),
-    );
+    return list(texts.envelopes, envelopes.column('pCases').numbers(envelope));
 }
 
 // Self-weight and temperature have no arrows: they are named, with the group they are on.

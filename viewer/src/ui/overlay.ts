@@ -1,7 +1,14 @@
 // What is written over the picture: axes, labels, values of loads, what is measured.
 import type { Point } from '../data/table';
 import { kBars } from '../geometry/bars';
-import { kLineLoads, kLocal, kPointLoads, kProjected, tailOf } from '../geometry/loads';
+import {
+    kLineLoads,
+    kLocal,
+    kPointLoads,
+    kProjected,
+    labelledArrows,
+    tailOf,
+} from '../geometry/loads';
 import { length, middleOf, subtract } from '../geometry/vectors';
 import { kind } from '../kinds';
 import type { Item } from '../model';
@@ -40,8 +47,11 @@ export class Overlay {
     }
 
     resize(width: number, height: number, ratio: number): void {
-        this.canvas.width = Math.round(width * ratio);
-        this.canvas.height = Math.round(height * ratio);
+        const [wide, high] = [Math.round(width * ratio), Math.round(height * ratio)];
+        // To set its size clears it, even when it is the same.
+        if (wide === this.canvas.width && high === this.canvas.height) return;
+        this.canvas.width = wide;
+        this.canvas.height = high;
         this.pen.setTransform(ratio, 0, 0, ratio, 0, 0);
     }
 
@@ -77,8 +87,6 @@ export class Overlay {
         const loads = stage?.loads;
         if (!loads) return [];
         return loads.loads.flatMap((load) => {
-            if (!load.label) return [];
-            const { at, size, isMoment } = load.label;
             const { item } = load;
             const per = item.kind === kPointLoads ? '' : item.kind === kLineLoads ? '/m' : '/m²';
             const frame = model.tableOf(item.kind).column('Repere').number(item.rank);
@@ -88,15 +96,12 @@ export class Overlay {
                     : frame === kProjected
                       ? ` ${texts.projected}`
                       : '';
-            const text = forceText(size, (isMoment ? 'Nm' : 'N') + per) + note;
-            return [
-                {
-                    at: tailOf(at, loads.factorOf(load, isMoment)),
-                    text,
-                    isLoad: true,
-                    item: item.number,
-                },
-            ];
+            return labelledArrows(load).map((arrow) => ({
+                at: tailOf(arrow, loads.factorOf(load, arrow.isMoment)),
+                text: forceText(length(arrow.vector), (arrow.isMoment ? 'Nm' : 'N') + per) + note,
+                isLoad: true,
+                item: item.number,
+            }));
         });
     }
 
@@ -167,13 +172,17 @@ export class Overlay {
             const at = stage!.view.project(label.at);
             if (!at || at.x < 0 || at.y < 0 || at.x > width || at.y > height) continue;
             const wide = this.pen.measureText(label.text).width;
-            if (!this.take(taken, at.x + 4, at.y - 8, wide)) continue;
+            // A force and a moment may have their tails in one place.
+            const y = [at.y - 8, ...(label.isLoad ? [at.y + 10] : [])].find((one) =>
+                this.take(taken, at.x + 4, one, wide),
+            );
+            if (y === undefined) continue;
             ++drawn;
             this.pen.lineWidth = 3;
             this.pen.strokeStyle = halo;
-            this.pen.strokeText(label.text, at.x + 4, at.y - 8);
+            this.pen.strokeText(label.text, at.x + 4, y);
             this.pen.fillStyle = this.colour(label.isLoad ? '--load' : '--text');
-            this.pen.fillText(label.text, at.x + 4, at.y - 8);
+            this.pen.fillText(label.text, at.x + 4, y);
         }
     }
 
@@ -221,7 +230,7 @@ export class Overlay {
     private drawAxes(height: number): void {
         const { view } = this.context.stage!;
         const elements = view.camera.matrixWorldInverse.elements;
-        const [x0, y0, size] = [38, height - 38, 24];
+        const [x0, y0, size] = [38, height - 48, 24];
         const axes = ['X', 'Y', 'Z'].map((name, i) => ({
             name,
             colour: `rgb(${kAxisColours[i]!.join(' ')})`,

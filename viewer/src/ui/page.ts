@@ -151,7 +151,7 @@ function panels(context: Context): HTMLElement {
         make[key][1](context, element);
         return element;
     });
-    const trouble = findings.count(2) + findings.count(1);
+    const found = findings.count(2) + findings.count(1) + findings.count(0);
     const tabs = keys.map((key, i) =>
         h(
             'button',
@@ -170,7 +170,7 @@ function panels(context: Context): HTMLElement {
                 },
             },
             make[key][0],
-            key === 'findings' && trouble > 0 ? h('span', { class: 'badge' }, trouble) : undefined,
+            key === 'findings' && found > 0 ? h('span', { class: 'badge' }, found) : undefined,
         ),
     );
     store.on(['panel'], () =>

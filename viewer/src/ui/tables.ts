@@ -4,37 +4,13 @@ import { kindOfTable, kKinds, type Kind } from '../kinds';
 import { titleOf } from '../names';
 import { kindName } from '../text';
 import { fieldName } from '../text/fields';
+import { inOrder, isCount } from './columnOrder';
 import type { Context } from './context';
 import { button, fill, h, newId, save } from './dom';
 import { cellText, Grid } from './grid';
 
-// What begins the rows, whatever the order of the contract.
-const kLeading = [
-    'identifier',
-    'lIdentifier',
-    'Num',
-    'iNumCas',
-    'ElemLabels.tabLabels',
-    'Titre',
-    'MaterialName',
-    'SectionLib',
-    'AttacheLib',
-    'ElementType',
-    'GroupNumber',
-    'NumCas',
-];
-// Numbers of values, which the values tell themselves.
-const kCounts = /(^|\.)nb(Points|Labels)$/;
-
 function columnsOf(context: Context, kind: Kind): Column[] {
-    const { columns } = context.model.tableOf(kind);
-    const place = (column: Column): number => {
-        const found = kLeading.indexOf(column.name);
-        return column.name === 'line' ? 1e6 : found < 0 ? 1000 : found;
-    };
-    return columns
-        .filter((column) => !kCounts.test(column.name))
-        .sort((a, b) => place(a) - place(b));
+    return inOrder(context.model.tableOf(kind).columns).filter((column) => !isCount(column));
 }
 
 function textOfCell(context: Context, column: Column, row: number): string {
