@@ -2,7 +2,7 @@
 from __future__ import annotations
 
 import os
-import tempfile
+import uuid
 
 
 def write_page(page: str, path: str, force: bool) -> None:
@@ -10,15 +10,14 @@ def write_page(page: str, path: str, force: bool) -> None:
     content = page.encode("utf-8")
     if not force and os.path.lexists(path) and not _is_page(path, content):
         raise FileExistsError(f"{path}: it is there already and no page; force=True replaces it")
-    descriptor, temporary = tempfile.mkstemp(".tmp", os.path.basename(path),
-                                             os.path.dirname(path) or ".")
+    temporary = f"{path}.{uuid.uuid4().hex}.tmp"
     try:
-        with os.fdopen(descriptor, "wb") as file:
+        with open(temporary, "xb") as file:
             file.write(content)
-        os.chmod(temporary, 0o666 & ~_umask())
         os.replace(temporary, path)
     except BaseException:
-        os.remove(temporary)
+        if os.path.lexists(temporary):
+            os.remove(temporary)
         raise
 
 
@@ -28,9 +27,3 @@ def _is_page(path: str, page: bytes) -> bool:
     beginning = page[:page.index(b"\n") + 1]
     with open(path, "rb") as file:
         return file.read(len(beginning)) == beginning
-
-
-def _umask() -> int:
-    mask = os.umask(0)
-    os.umask(mask)
-    return mask
