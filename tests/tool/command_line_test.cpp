@@ -76,6 +76,11 @@ TEST(CommandLine, WrongUsageIsToldApartFromBadFiles)
     ExpectUsageError(RunTool({"show", Sample("portique")}), "subcommand");
 }
 
+TEST(CommandLine, WordThatIsNoCommandIsNamed)
+{
+    ExpectUsageError(RunTool({"exprot", "a.txt"}), "exprot is no subcommand");
+}
+
 TEST(CommandLine, ComponentThatCannotBeLoadedIsNamed)
 {
     ExpectUsageError(RunTool({"--component", "/no/such/component.so", "info", Sample("hall")}),

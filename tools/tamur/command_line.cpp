@@ -93,6 +93,11 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
         app.parse(arguments);
     } catch (const CLI::Success& answer) {
         app.exit(answer, out, out);
+    } catch (const CLI::RequiredError&) {
+        // What is missing matters less than what stands in its place.
+        const std::vector<std::string> unknown = app.remaining();
+        if (unknown.empty()) throw;
+        throw CLI::ParseError(unknown.front() + " is no subcommand", CLI::ExitCodes::ExtrasError);
     }
     return task;
 }
