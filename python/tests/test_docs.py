@@ -73,6 +73,17 @@ def test_the_tutorial(place, tmp_path):
     assert sums.count("load case") == 4
 
 
+def test_the_readme_as_in_a_clone():
+    """With the package that `./dev python` imports, which is not installed."""
+    readme = (PROJECT / "README.md").read_text(encoding="utf-8")
+    [(code, _)] = BLOCK.findall(readme)
+    package = PROJECT / "build/native/python/package"
+    code += "\nprint(tamur.__file__, m.bars['length'].sum())"
+    answer = subprocess.run(["/usr/bin/python3", "-c", code], cwd=PROJECT, capture_output=True,
+                            text=True, env={**os.environ, "PYTHONPATH": str(package)}, check=True)
+    assert answer.stdout == f"{package / 'tamur/__init__.py'} 440.63453348751466\n"
+
+
 def test_the_list_of_columns():
     assert (PROJECT / "docs" / "columns.md").read_text(encoding="utf-8") == (
         GENERATED / "python" / "columns.md").read_text(encoding="utf-8")
