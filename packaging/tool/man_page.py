@@ -18,7 +18,7 @@ def paragraphs(footer: str) -> str:
     result, verbatim = "", False
     for line in footer.splitlines():
         if verbatim != line.startswith("  "):
-            result += ".fi\n" if verbatim else ".nf\n"
+            result += ".fi\n.PP\n" if verbatim else ".PP\n.nf\n"
             verbatim = not verbatim
         result += f"{plain(line)}\n" if line.strip() else ".PP\n"
     return result + (".fi\n" if verbatim else "")
