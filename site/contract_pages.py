@@ -204,6 +204,12 @@ class ContractPages:
         lines = [f"### {interface.name}\n"]
         if self.comments.of[interface.name]:
             lines.append(self.comments.of[interface.name] + "\n")
+        tables = [table for accessor in self.contract.accessors()
+                  if accessor.interface == interface for table in accessor.tables]
+        if tables:
+            lines.append("Serves " + ", ".join(
+                f"[{table.plain_name}](records.md#{slug_of(table.record)})" for table in tables)
+                + ".\n")
         lines.append(f"Identifier `{{{interface.iid.upper()}}}`, derived from "
                      f"`{interface.base}`.\n")
         if interface.methods:

@@ -67,7 +67,11 @@ def _file(name, folder, config):
 def _source_page(source):
     """A file of the project that pages link to, to be read and searched on the site."""
     path = ROOT / source
-    text = path.read_text(encoding="utf-8")
+    if path.is_dir():
+        names = "\n".join(f"- [{name}]({path.name}/{name}.md)" for name in _names_in(source))
+        return f"# {source}\n\n{names}\n"
+    # Model files are in the code page of Western Europe.
+    text = path.read_text(encoding="cp1252" if source.startswith("samples/") else "utf-8")
     language = LANGUAGES.get(path.suffix, "text")
     return f"# {source}\n\n````{language}\n{text.rstrip()}\n````\n"
 
@@ -82,13 +86,23 @@ def _sources_of(page, text):
     for target, _ in LINK.findall(FENCES.sub("", text)):
         path = _in_project(page, target)
         if not path.startswith("docs/") and path not in (*AT_THE_ROOT, *BETTER):
-            if not (ROOT / path).is_file():
+            if not (ROOT / path).exists():
                 raise PluginError(f"{page}: no file and no page: {target}")
             yield path
+            yield from (f"{path}/{name}" for name in _names_in(path))
+
+
+def _names_in(folder):
+    """The files of a folder; none for a file."""
+    path = ROOT / folder
+    return sorted(one.name for one in path.iterdir() if one.is_file()) if path.is_dir() else []
 
 
 def on_page_markdown(markdown, page, config, files):
     name = page.file.src_path
+
+    if name.startswith(SOURCES):
+        return markdown
 
     def on_the_site(match):
         path = _in_project(name, match[1])
