@@ -19,7 +19,7 @@ from slugs import slug_of  # noqa: E402
 
 MADE = ROOT / "build" / "site-pages"
 SOURCES = "sources/"
-AT_THE_ROOT = ("README.md", "CHANGELOG.md")
+AT_THE_ROOT = ("README.md", "CHANGELOG.md", "THIRD-PARTY.md")
 # What the site has for folders and files that pages link to. Other files become pages of their own.
 BETTER = {"examples": "hosts/index.md", "include/tamur": "reference/cpp.md",
           "include/tamur/tamur.h": "reference/c.md", "idl/TAMURReader.idl": "reference/contract.md"}
