@@ -192,6 +192,36 @@ def compile_csharp(code: str) -> None:
               "block.cs", str(GENERATED / "bindings" / "TAMURReader.cs")], name)
 
 
+# What stands here for the compilers that are named on Windows.
+CROSS = {"g++": ["x86_64-w64-mingw32-g++"], "gcc": ["x86_64-w64-mingw32-gcc"],
+         "csc": ["mcs", "-warnaserror"]}
+
+
+def windows_package(folder: Path) -> Path:
+    """A folder with what the commands for Windows name, where the package has it."""
+    package = folder / "package"
+    if not package.exists():
+        shutil.copytree(ROOT / "examples", package / "examples")
+        shutil.copytree(ROOT / "include" / "tamur", package / "include" / "tamur")
+        for source, target in (("TAMURReader.h", "include"), ("TAMURReader_i.c", "include"),
+                               ("tamur/fields.h", "include/tamur"),
+                               ("tamur/tables.h", "include/tamur"),
+                               ("bindings/TAMURReader.cs", "examples/csharp")):
+            shutil.copy(GENERATED / source, package / target)
+    return package
+
+
+def check_bat(block: Block, folder: Path) -> None:
+    check_usage(block.code)
+    package = windows_package(folder)
+    for line in block.code.replace("^\n", " ").splitlines():
+        command, *arguments = line.replace("\\", "/").split()
+        if command in CROSS:
+            must([*CROSS[command], *arguments], package)
+        elif not (package / command).is_file() and not command.startswith("tamur"):
+            raise CheckError(f"there is no {command} in the folder")
+
+
 def check_cmake(block: Block, folder: Path) -> None:
     project = folder / "cmake-block"
     project.mkdir(exist_ok=True)
@@ -316,7 +346,7 @@ CHECKERS = {
     "csharp": lambda block, _: compile_csharp(block.code),
     "console": check_console, "bash": check_bash, "python": check_python,
     "usage": lambda block, _: check_usage(block.code),
-    "bat": lambda block, _: check_usage(block.code),
+    "bat": check_bat,
     "json": check_json, "yaml": check_yaml, "toml": lambda block, _: tomllib.loads(block.code),
     "xml": lambda block, _: ElementTree.fromstring(block.code),
     "model": check_model, "text": check_text,

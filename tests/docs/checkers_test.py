@@ -49,6 +49,8 @@ WRONG = {
     "no option --colour": block("usage", "tamur check FILE [--colour WHEN]"),
     "no ./dev brew": block("usage", "./dev brew"),
     "no option --everything": block("bat", "tamur.exe check --everything", "not run: Windows"),
+    "no none.exe in": block("bat", "none.exe x"),
+    "x86_64-w64-mingw32-gcc": block("bat", "gcc examples\\c_host.c -o c_host.exe"),
     "Expecting": block("json", "{"),
     "no part of what": block("json", '{"tool": {"name": "other"}}',
                              "output of tamur check --format json hall.txt"),
