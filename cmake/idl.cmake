@@ -57,7 +57,8 @@ add_custom_command(
 # The rows that tables are handed over in, in C and in Python.
 add_custom_command(
     OUTPUT ${generated_dir}/tamur/rows.h ${generated_dir}/host/row_fills.h
-           ${generated_dir}/host/row_layout.h ${generated_dir}/python/_tables.py
+           ${generated_dir}/host/row_layout.h ${generated_dir}/host/row_names.h
+           ${generated_dir}/python/_tables.py
            ${generated_dir}/python/_tables.pyi ${generated_dir}/python/columns.md
     COMMAND ${Python3_EXECUTABLE} -B ${idl_dir}/generate_rows.py ${idl_dir}/TAMURReader.idl
             ${generated_dir}

@@ -1,7 +1,8 @@
 """Makes what hands tables over as rows, from the contract and the names of the columns.
 
 usage: generate_rows.py IDL FOLDER
-       tamur/rows.h, host/row_fills.h, host/row_layout.h, python/_tables.py and .pyi, columns.md
+       tamur/rows.h, host/row_fills.h, host/row_layout.h, host/row_names.h,
+       python/_tables.py and .pyi, python/columns.md
 """
 import os
 import sys
@@ -49,6 +50,18 @@ template <class PublicRecord>
 struct RowTypeOf;
 """
 
+NAMES = """// What the tables are called as rows. Made from the contract; do not edit.
+#pragma once
+
+#include <TAMURReader.h>
+
+namespace tamur::host {
+
+// "bars", by the record.
+template <class PublicRecord>
+inline constexpr const char* kRowName = nullptr;
+
+"""
 LAYOUT = """// Where the columns of the rows are. Made from the contract; do not edit. Part of
 // host/rows/layout.cpp.
 #pragma once
@@ -142,11 +155,18 @@ def c_layout(tables: list[Rows]) -> str:
     return LAYOUT + "\n".join(lines) + "\n};\n\n}  // namespace tamur::host\n"
 
 
+def c_names(tables: list[Rows]) -> str:
+    names = [f'template <>\ninline constexpr const char* kRowName<{rows.names.record}> = '
+             f'"{rows.names.name}";' for rows in tables if rows.names.record]
+    return NAMES + "\n".join(names) + "\n\n}  // namespace tamur::host\n"
+
+
 def main() -> None:
     tables = all_rows(read_contract(sys.argv[1]))
     for name, text in (("tamur/rows.h", c_rows(tables)),
                        ("host/row_fills.h", c_fills(tables)),
                        ("host/row_layout.h", c_layout(tables)),
+                       ("host/row_names.h", c_names(tables)),
                        ("python/_tables.py", python_tables(tables)),
                        ("python/_tables.pyi", python_stubs(tables)),
                        ("python/columns.md", column_docs(tables))):

@@ -10,6 +10,8 @@ import pytest
 from tamur import _library
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(PROJECT / "tests" / "support"))
+from whole_dump import whole_dump  # noqa: E402
 SAMPLES = sorted((PROJECT / "samples").glob("*.txt"))
 GENERATED = pathlib.Path(os.environ["TAMUR_GENERATED"])
 MODELS = sorted(pathlib.Path(os.environ["TAMUR_MODELS"]).glob("*.txt"))
@@ -44,4 +46,4 @@ def dump(model: pathlib.Path, scratch: pathlib.Path):
     if run_tool(scratch, "dump", str(model)) != 0:
         return None
     with open(scratch, encoding="utf-8") as file:
-        return json.load(file)
+        return whole_dump(json.load(file))

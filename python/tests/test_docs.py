@@ -96,6 +96,16 @@ def test_other_pages(page, place):
     run_page(page)
 
 
+def test_the_readme_as_in_a_clone():
+    """With the package that `./dev python` imports, which is not installed."""
+    [(code, _)] = pieces_of("README.md")
+    package = PROJECT / "build/native/python/package"
+    code += "\nprint(tamur.__file__, m.bars['length'].sum())"
+    answer = subprocess.run(["/usr/bin/python3", "-c", code], cwd=PROJECT, capture_output=True,
+                            text=True, env={**os.environ, "PYTHONPATH": str(package)}, check=True)
+    assert answer.stdout == f"{package / 'tamur/__init__.py'} 440.63453348751466\n"
+
+
 def test_the_list_of_columns():
     assert (PROJECT / "docs" / "columns.md").read_text(encoding="utf-8") == (
         GENERATED / "python" / "columns.md").read_text(encoding="utf-8")

@@ -1,5 +1,6 @@
 """What is asked of a code block, by its language: see check_code."""
 import json
+import math
 import os
 import re
 import shutil
@@ -95,7 +96,7 @@ class Page:
             if not is_part(json.loads(block.code), json.loads(output)):
                 raise CheckError(f"no part of what {command} writes")
         else:
-            compare(block.code.splitlines(), output.splitlines())
+            compare(shown_lines(block, block.code.splitlines()), output.splitlines())
 
 
 # ---------------------------------------------------------------- what holds for all languages
@@ -143,13 +144,22 @@ def compare(expected: list[str], actual: list[str]) -> None:
         raise CheckError(f"the output goes on: \"{actual[place]}\"")
 
 
+def shown_lines(block: Block, lines: list[str]) -> list[str]:
+    if "some lines" not in block.marks:
+        return lines
+    return ["...", *(part for line in lines for part in (line, "..."))]
+
+
 def is_part(said, actual) -> bool:
+    """Numbers may be shown with fewer digits."""
     if said == "..." and isinstance(actual, str):
         return True
     if isinstance(said, dict) and isinstance(actual, dict):
         return all(key in actual and is_part(value, actual[key]) for key, value in said.items())
     if isinstance(said, list) and isinstance(actual, list):
         return all(any(is_part(one, other) for other in actual) for one in said)
+    if isinstance(said, float) and isinstance(actual, float):
+        return math.isclose(said, actual, rel_tol=1e-6, abs_tol=1e-6)
     return said == actual
 
 
@@ -265,10 +275,8 @@ def check_console(block: Block, folder: Path) -> None:
             raise CheckError("a console begins with \"$ \" and a command")
     for command, lines, (output, status) in zip(commands, expected, session(commands, folder)):
         check_status(command, status, output)
-        if "some lines" in block.marks:
-            lines = ["...", *(part for line in lines for part in (line, "..."))]
         if lines or output.strip():
-            compare(lines, output.splitlines())
+            compare(shown_lines(block, lines), output.splitlines())
 
 
 def check_bash(block: Block, folder: Path) -> None:

@@ -6,7 +6,7 @@ import unittest
 from unittest.mock import patch
 
 import pages
-from checkers import CheckError, Page
+from checkers import CheckError, Page, run
 from pages import ROOT, PageError
 
 sys.path.insert(0, str(ROOT / "site"))
@@ -81,6 +81,20 @@ class Blocks(unittest.TestCase):
         for text in RIGHT:
             with self.subTest(text):
                 self.assertEqual(trouble_with(text), "")
+
+
+class HostOfTheReadme(unittest.TestCase):
+    def test_says_what_goes_wrong(self):
+        """Where there is no model; that it does what is printed is asked by check_code."""
+        with Page("README.md") as place:
+            host, = (one for one in pages.blocks_of("README.md") if "file" in one.marks)
+            compiling, = (one for one in pages.blocks_of("README.md") if "host.cpp" in one.code)
+            place.check(host)
+            place.check(compiling)
+            (place.folder / "samples").unlink()
+            answer = run(["./host"], place.folder)
+            self.assertEqual(answer.returncode, 1)
+            self.assertTrue(answer.stdout.endswith("\nhost: Import failed\n"), answer.stdout)
 
 
 class Anchors(unittest.TestCase):

@@ -7,6 +7,9 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / 'support'))
+from whole_dump import whole_dump  # noqa: E402
+
 GENERATED = 200
 
 # Labels and names that a form may take for something else than a text.
@@ -59,7 +62,7 @@ def _models(folder, kinds):
         path = {kind: dump.with_suffix('.' + kind + ('.xlsx' if kind == 'saf' else ''))
                 for kind in kinds}
         with open(dump, encoding='utf-8') as file:
-            yield dump.with_suffix('.txt'), json.load(file), path
+            yield dump.with_suffix('.txt'), whole_dump(json.load(file)), path
 
 
 class Judge:

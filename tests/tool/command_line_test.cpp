@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 
 #include "support/model_text.h"
 #include "tool_run.h"
@@ -72,7 +73,7 @@ TEST(CommandLine, WrongUsageIsToldApartFromBadFiles)
     ExpectUsageError(RunTool({"info"}), "FILE");
     ExpectUsageError(RunTool({"dump"}), "FILE");
     ExpectUsageError(RunTool({"info", Sample("portique"), "--pretty"}), "--pretty");
-    ExpectUsageError(RunTool({"info", Sample("portique"), Sample("hall")}), "hall.txt");
+    ExpectUsageError(RunTool({"dump", Sample("portique"), Sample("hall")}), "hall.txt");
     ExpectUsageError(RunTool({"show", Sample("portique")}), "subcommand");
 }
 
@@ -107,16 +108,110 @@ TEST(CommandLine, OutputThatCannotBeWrittenIsAnError)
     EXPECT_EQ(WEXITSTATUS(status), 2);
 }
 
-TEST(CommandLine, HelpDocumentsCommandsAndExitCodes)
+TEST(CommandLine, HelpHasExamplesAndExitCodes)
 {
-    for (const auto& arguments : std::vector<std::vector<std::string>>{
-             {"--help"}, {"info", "--help"}, {"dump", "--help"}}) {
-        const ToolRun run = RunTool(arguments);
+    const std::vector<std::string> commands = {"info", "check", "dump", "diff", "export", "view"};
+    const ToolRun whole = RunTool({"--help"});
+    EXPECT_THAT(whole.output, AllOf(HasSubstr("Examples:\n"), HasSubstr("Exit codes: 0 ")));
+    for (const std::string& command : commands) {
+        EXPECT_THAT(whole.output, HasSubstr("\n  " + command + " "));
+        EXPECT_THAT(whole.output, HasSubstr("\n  tamur " + command + " "));
+        const ToolRun run = RunTool({command, "--help"});
         EXPECT_EQ(run.exitCode, 0);
         EXPECT_EQ(run.errors, "");
-        EXPECT_THAT(run.output, HasSubstr("Exit codes: 0 fine; 1 "));
+        EXPECT_THAT(run.output,
+                    AllOf(HasSubstr("Examples:\n"), HasSubstr("\n  tamur " + command + " "),
+                          HasSubstr("Exit codes: 0 ")));
     }
-    EXPECT_THAT(RunTool({"--help"}).output, AllOf(HasSubstr("info"), HasSubstr("dump")));
+}
+
+// In a folder with the files that they speak of; what opens a browser or reads a pipe of another
+// program is left out.
+TEST(CommandLine, ExamplesOfTheHelpTextsWork)
+{
+    namespace fs = std::filesystem;
+    const fs::path folder = TemporaryFile("").Path().string() + ".examples";
+    fs::create_directories(folder / "export");
+    fs::create_directories(folder / "pages");
+    for (const char* name : {"hall.txt", "monday.txt", "export/hall.txt"}) {
+        fs::copy_file(Sample("hall"), folder / name);
+    }
+    fs::copy_file(Sample("portique"), folder / "friday.txt");
+    fs::create_symlink(TAMUR_TOOL, folder / "tamur");
+    int run = 0;
+    for (const std::string command : {"", "info", "check", "dump", "diff", "export", "view"}) {
+        const auto help = command.empty() ? RunTool({"--help"}) : RunTool({command, "--help"});
+        std::istringstream lines(help.output);
+        for (std::string line; std::getline(lines, line);) {
+            if (!line.starts_with("  tamur ")) continue;
+            if (line.find("--open") != std::string::npos) continue;
+            std::string shell = line.substr(2, line.find("   ", 2) - 2);
+            shell = shell.substr(0, shell.find(" | "));
+            const std::string whole = "cd '" + folder.string() + "' && PATH=.:$PATH; (" + shell +
+                                      ") >out.txt 2>errors.txt";
+            fs::remove(folder / "hall.xlsx");  // two examples write it
+            const int status = WEXITSTATUS(std::system(whole.c_str()));
+            EXPECT_LE(status, 1) << shell;
+            EXPECT_EQ(fs::file_size(folder / "errors.txt"), 0u) << shell;
+            ++run;
+        }
+    }
+    EXPECT_GE(run, 18);
+    fs::remove_all(folder);
+}
+
+// Each command, with everything else as it is.
+TEST(CommandLine, QuietSaysNothingButWhatGoesWrong)
+{
+    const TemporaryFile output("", ".html");
+    for (const auto& arguments : std::vector<std::vector<std::string>>{
+             {"check", "--quiet", Sample("hall")},
+             {"check", "-q", "--format", "json", Sample("hall")},
+             {"diff", "--quiet", Sample("hall"), Sample("hall")},
+             {"view", "--quiet", "--force", Sample("hall"), "-o", output.Path()},
+             {"export", "-q", "--force", Sample("hall"), "--to", "glb", "-o", output.Path()}}) {
+        const ToolRun run = RunTool(arguments);
+        EXPECT_EQ(run.exitCode, 0) << arguments[0];
+        EXPECT_EQ(run.output + run.errors, "") << arguments[0];
+    }
+    EXPECT_EQ(RunTool({"check", "--quiet", Sample("erreurs")}).exitCode, 1);
+    EXPECT_EQ(
+        RunTool({"diff", "-q", "--format", "json", Sample("hall"), Sample("portique")}).exitCode,
+        1);
+    const ToolRun trouble = RunTool({"check", "--quiet", "/tmp"});
+    EXPECT_EQ(trouble.exitCode, 2);
+    EXPECT_EQ(trouble.errors, "tamur: /tmp: this is a folder, a device or a pipe, not a file\n");
+}
+
+TEST(CommandLine, LanguageIsOneOfTwoEverywhere)
+{
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{"info", Sample("hall")},
+                                               {"check", Sample("hall")},
+                                               {"diff", Sample("hall"), Sample("hall")},
+                                               {"export", Sample("hall"), "--to", "csv"}}) {
+        std::vector<std::string> german = arguments;
+        german.insert(german.end(), {"--lang", "de"});
+        ExpectUsageError(RunTool(german), "--lang: de is none of: en, fr");
+    }
+}
+
+TEST(CommandLine, EveryCommandReadsStandardInputAndPipes)
+{
+    const TemporaryFile output("", ".glb");
+    const std::string same = "cat '" + Sample("hall") + "' |";
+    for (const auto& arguments : std::vector<std::vector<std::string>>{
+             {"info", "-"},
+             {"check", "-"},
+             {"dump", "-"},
+             {"diff", "-", Sample("hall")},
+             {"diff", Sample("hall"), "/dev/stdin"},
+             {"export", "-", "--force", "-o", output.Path()},
+             {"view", "/dev/stdin", "--force", "-o", output.Path()}}) {
+        const ToolRun run = RunTool(arguments, same);
+        EXPECT_EQ(run.exitCode, 0) << arguments[0] << ": " << run.errors;
+    }
+    EXPECT_EQ(nlohmann::json::parse(RunTool({"dump", "-"}, same).output)["File"], "stdin");
 }
 
 TEST(CommandLine, FileNamesMayHaveAccents)

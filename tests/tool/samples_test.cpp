@@ -187,7 +187,7 @@ TEST(Samples, HallShowsSectionNamesAndAccents)
     for (const json& section : dump["Sections"]) names.push_back(section["SectionLib"]);
     EXPECT_THAT(names, testing::ElementsAre("I29*0.85*30*1.4", "I40*0.86*18*1.35", "IPE160",
                                             "T15*0.8*15*1", "T0.8*15*1.5*1/0*12.7*1/0", "RON24"));
-    EXPECT_EQ(dump["Filaires"][2]["ElemLabels"]["tabLabels"], json({"Arbalétrier-1G"}));
+    EXPECT_EQ(dump["Filaires"][2]["ElemLabels"], json({"Arbalétrier-1G"}));
     EXPECT_EQ(dump["Groupes"][3]["Titre"], "Sablières et faîtière");
 }
 

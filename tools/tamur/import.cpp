@@ -10,8 +10,10 @@ namespace {
 
 using host::Language;
 
-std::unique_ptr<Component> Load(const std::string& path)
+// Before a file is looked at: without the component nothing can be done.
+std::unique_ptr<Component> LoadIfGiven(const std::string& path)
 {
+    if (path.empty()) return nullptr;
     return std::make_unique<Component>(
         std::filesystem::path(std::u8string(path.begin(), path.end())));
 }
@@ -27,6 +29,21 @@ ComPtr<ITAMURStructureReader> ImportThrough(const Component& component, const In
     return reader;
 }
 
+Imported Serve(std::unique_ptr<Component> component, const Input& input, host::ImportedFile file)
+{
+    if (file.refusal) throw ImportRefused(input, *file.refusal);
+    if (file.readError) {
+        throw std::runtime_error(input.Name() + ": " + TextOf(*file.readError, Language::kEnglish));
+    }
+    Imported imported;
+    imported.reader = component ? ImportThrough(*component, input) : std::move(file.reader);
+    imported.component = std::move(component);
+    imported.version = std::move(file.version);
+    imported.servicePack = file.servicePack;
+    imported.lines = std::move(file.lines);
+    return imported;
+}
+
 }  // namespace
 
 ImportRefused::ImportRefused(const Input& input, const host::Finding& why)
@@ -36,24 +53,14 @@ ImportRefused::ImportRefused(const Input& input, const host::Finding& why)
 
 Imported Import(const std::string& componentPath, const Input& input, host::Findings& findings)
 {
-    Imported imported;
-    if (!componentPath.empty()) imported.component = Load(componentPath);
-    host::ImportedFile file = host::ImportFile(input.Path(), findings);
-    if (file.refusal) throw ImportRefused(input, *file.refusal);
-    if (file.readError) {
-        throw std::runtime_error(input.Name() + ": " + TextOf(*file.readError, Language::kEnglish));
-    }
-    imported.version = std::move(file.version);
-    imported.lines = std::move(file.lines);
-    imported.reader =
-        imported.component ? ImportThrough(*imported.component, input) : std::move(file.reader);
-    return imported;
+    auto component = LoadIfGiven(componentPath);
+    return Serve(std::move(component), input, host::ImportFile(input.Path(), findings));
 }
 
 Imported Import(const std::string& componentPath, const Input& input)
 {
-    host::Findings findings(0);
-    return Import(componentPath, input, findings);
+    auto component = LoadIfGiven(componentPath);
+    return Serve(std::move(component), input, host::ImportFile(input.Path()));
 }
 
 }  // namespace tamur::tool

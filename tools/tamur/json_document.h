@@ -1,16 +1,16 @@
-// A JSON object whose members are written as they come, so that a large model needs no tree of it.
+// A JSON object whose members are written as they come, so that a large one needs no tree of it.
 #pragma once
 
 #include <ostream>
-#include <string>
 
-#include "json_record.h"
+#include "json_value.h"
 
 namespace tamur::tool {
 
+// Of an array that is a member, each element is a line.
 class JsonDocument {
  public:
-    JsonDocument(std::ostream& out, bool isPretty) : out_(out), isPretty_(isPretty) { out_ << "{"; }
+    explicit JsonDocument(std::ostream& out) : out_(out) { out_ << "{"; }
 
     void End() { out_ << "\n}\n"; }
 
@@ -21,10 +21,8 @@ class JsonDocument {
 
  private:
     void BeginMember(const char* name);
-    void Write(const Json& value, int depth);
 
     std::ostream& out_;
-    bool isPretty_;
     bool isFirstMember_ = true;
     bool isFirstElement_ = true;
 };

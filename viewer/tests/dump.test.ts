@@ -3,10 +3,9 @@ import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
 import type { Value } from '../src/data/table';
-import { dataOf, kHead, modelFile, pageOf, run, sample, samples } from './support';
+import { dataOf, dumpOf, kHead, modelFile, pageOf, type Record_, sample, samples } from './support';
 
 type Json = null | number | string | Json[] | { [key: string]: Json };
-type Record_ = { [key: string]: Json };
 
 // Numbers as JSON has them.
 function plain(value: Value): Json {
@@ -38,7 +37,7 @@ const trimmed = (list: Json): Json => {
 };
 
 async function compare(file: string): Promise<number> {
-    const dump = JSON.parse(run('dump', file)) as Record<string, Record_[]>;
+    const dump = dumpOf(file);
     const data = await dataOf(pageOf(file));
     let compared = 0;
     for (const [name, records] of Object.entries(dump)) {

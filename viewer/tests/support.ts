@@ -28,6 +28,54 @@ export function run(...parameters: string[]): string {
     return execFileSync(tool, parameters, { encoding: 'utf8', maxBuffer: 2 ** 28 });
 }
 
+type Json = null | number | string | Json[] | { [key: string]: Json };
+export type Record_ = { [key: string]: Json };
+
+const kReferences: { [field: string]: string } = {
+    StartSection: 'Sections',
+    EndSection: 'Sections',
+    StartConnection: 'Attaches',
+    EndConnection: 'Attaches',
+    FilaireMaterial: 'Materials',
+    SurfaciqueMaterial: 'Materials',
+};
+
+const pointOf = ([x, y, z]: Json[]): Json => ({ x: x!, y: y!, z: z! });
+
+function wholeList(name: string, list: Json[]): Json {
+    if (name === 'ElemLabels') return { nbLabels: list.length, tabLabels: list };
+    if (name === 'portCoef') return { nbPoints: list.length, tabCoef: list };
+    if (['startPoint', 'endPoint', 'start', 'end'].includes(name)) return pointOf(list);
+    if (name !== 'Geometrie' && name !== 'Surface') return list;
+    if (list.length > 0 && !Array.isArray(list[0])) return pointOf(list);
+    return { nbPoints: list.length, tabPoints: list.map((point) => pointOf(point as Json[])) };
+}
+
+function whole(name: string, value: Json, dump: Record<string, Record_[]>): Json {
+    if (Array.isArray(value)) return wholeList(name, value);
+    if (name in kReferences && typeof value === 'number')
+        return dump[kReferences[name]!]![value] as Json;
+    // That of a load case is a text.
+    if (name === 'epureSec') {
+        const outline = value as Record_;
+        return { ...outline, Code: (outline.Code as string).charCodeAt(0) };
+    }
+    if (value === null || typeof value !== 'object') return value;
+    return Object.fromEntries(
+        Object.entries(value).map(([key, one]) => [key, whole(key, one, dump)]),
+    );
+}
+
+// The dump of a model with every record whole, as the contract has it: no references.
+export function dumpOf(file: string): Record<string, Record_[]> {
+    const dump = JSON.parse(run('dump', file)) as Record<string, Record_[]>;
+    for (const [name, records] of Object.entries(dump)) {
+        if (Array.isArray(records) && name !== 'Messages')
+            dump[name] = records.map((record) => whole('', record, dump) as Record_);
+    }
+    return dump;
+}
+
 // The path of the page of that model file.
 export function pageOf(file: string): string {
     const path = output(`${file.split('/').pop()}.html`);

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <vector>
 
-#include "host/export/glb/json_writer.h"
+#include "host/json/json_writer.h"
 #include "host/structure/geometry.h"
 
 namespace tamur::host {

@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "host/diff/field_rules.h"
-#include "host/export/glb/json_writer.h"
+#include "host/json/scalar_json.h"
 
 namespace tamur::host {
 
@@ -44,17 +44,12 @@ class RecordJson {
     template <class Value>
     void Write(Value& value)
     {
-        if constexpr (std::is_same_v<Value, BSTR>) {
-            if (value == nullptr) return out_.Null();
-            out_.Text(ViewOf(value));
-        } else if constexpr (std::is_same_v<Value, double>) {
-            out_.Number(value);
-        } else if constexpr (std::is_class_v<Value>) {
+        if constexpr (std::is_class_v<Value>) {
             out_.Begin('{');
             VisitFields(value, *this);
             out_.End('}');
         } else {
-            out_.Number(static_cast<std::int64_t>(value));
+            WriteScalar(out_, value);
         }
     }
 

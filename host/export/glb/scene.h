@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/export/glb/json_writer.h"
+#include "host/json/json_writer.h"
 #include "host/geometry/frames.h"
 
 namespace tamur::host {

@@ -21,7 +21,7 @@ constexpr std::size_t kMostCases = 1000;
 using Vector = std::array<double, 3>;
 
 // Places in tables are counted from 1 in files; 0 is none.
-std::int32_t PlaceOf(Index index)
+std::int32_t NumberOfPlace(Index index)
 {
     return index == kNone ? 0 : static_cast<std::int32_t>(index + 1);
 }
@@ -169,9 +169,9 @@ class Parts {
         };
         add("Group", [](const Bar& bar) { return bar.group; });
         add("Type", [](const Bar& bar) { return NumberOf(bar.type); });
-        add("Section", [](const Bar& bar) { return PlaceOf(bar.startSection); });
-        add("EndSection", [](const Bar& bar) { return PlaceOf(bar.endSection); });
-        add("Material", [](const Bar& bar) { return PlaceOf(bar.material); });
+        add("Section", [](const Bar& bar) { return NumberOfPlace(bar.startSection); });
+        add("EndSection", [](const Bar& bar) { return NumberOfPlace(bar.endSection); });
+        add("Material", [](const Bar& bar) { return NumberOfPlace(bar.material); });
         add("Angle", [](const Bar& bar) { return bar.angle; });
         add("StartRelease", [](const Bar& bar) { return bar.releasedAtStart; });
         add("EndRelease", [](const Bar& bar) { return bar.releasedAtEnd; });
@@ -189,7 +189,7 @@ class Parts {
         };
         add("Group", [](const Surface& surface) { return surface.group; });
         add("Type", [](const Surface& surface) { return NumberOf(surface.type); });
-        add("Material", [](const Surface& surface) { return PlaceOf(surface.material); });
+        add("Material", [](const Surface& surface) { return NumberOfPlace(surface.material); });
         add("Thickness", [](const Surface& surface) { return surface.thickness; });
         ForEach(surfaces, [&](const Surface& surface, Index i) {
             AddTriangles(part, surface, i, cutter_.Surface(i));
@@ -211,8 +211,8 @@ class Parts {
     {
         const auto& openings = structure_.openings;
         VtkPart part = BeginOf("openings", openings);
-        part.cellArrays.push_back(
-            MakeArray("Surface", [&openings](Index i) { return PlaceOf(openings[i].surface); }));
+        part.cellArrays.push_back(MakeArray(
+            "Surface", [&openings](Index i) { return NumberOfPlace(openings[i].surface); }));
         ForEach(openings, [&](const Surface& opening, Index index) {
             const std::size_t count = opening.cornerCount;
             for (std::size_t i = 0; i < count; ++i) {

@@ -1,7 +1,7 @@
 // One object a check; docs/check.md describes it.
 #include "report.h"
-#include "section_names.h"
 #include "../json_text.h"
+#include "../sums/json.h"
 #include "host/file/header_names.h"
 
 namespace tamur::tool {
@@ -60,33 +60,6 @@ Json ToJson(const host::Balance& balance)
     return json;
 }
 
-Json SumsToJson(const host::Checked& checked)
-{
-    const host::Sums& sums = *checked.sums;
-    Json json = {{"cases", Json::array()},
-                 {"masses", sums.masses},
-                 {"lengths", Json::array()},
-                 {"areas", Json::array()}};
-    for (const host::CaseSum& sum : sums.cases) {
-        Json frames = Json::array();
-        for (const auto& [frame, forces] : sum.byFrame) {
-            frames.push_back({{"frame", frame}, {"forces", forces}});
-        }
-        json["cases"].push_back({{"number", sum.number},
-                                 {"title", sum.title},
-                                 {"loads", sum.loads},
-                                 {"frames", std::move(frames)}});
-    }
-    for (const auto& [ends, length] : sums.lengths) {
-        json["lengths"].push_back(
-            {{"section", SectionNames(ends, checked.sections)}, {"length", length}});
-    }
-    for (const auto& [thickness, area] : sums.areas) {
-        json["areas"].push_back({{"thickness", thickness}, {"area", area}});
-    }
-    return json;
-}
-
 class JsonReport final : public Report {
  public:
     JsonReport(Style style, std::ostream& out) : style_(style), out_(out)
@@ -113,7 +86,9 @@ class JsonReport final : public Report {
         if (report.showsBalance) {
             file["balance"] = tool::ToJson(report.checked.imported.balance);
         }
-        if (report.showsSums && report.checked.sums) file["sums"] = SumsToJson(report.checked);
+        if (report.showsSums && report.checked.sums) {
+            file["sums"] = JsonOf(*report.checked.sums, report.checked.sections);
+        }
         document_["files"].push_back(std::move(file));
     }
 

@@ -1,7 +1,7 @@
 // FILE:LINE:COLUMN: severity: text [TMR123], as compilers have it, so that editors can go there.
 #include "report.h"
-#include "sums_text.h"
 #include "balance_text.h"
+#include "../sums/text.h"
 #include "host/findings/plain_text.h"
 
 namespace tamur::tool {
@@ -36,7 +36,8 @@ class TextReport final : public Report {
             WriteBalance(report.checked.imported.balance, style_.language, out_);
         }
         if (report.showsSums && report.checked.sums) {
-            WriteSums(*report.checked.sums, report.checked.sections, style_.language, out_);
+            WriteSums(*report.checked.sums, report.checked.sections, style_.language, kAllSums,
+                      out_);
         }
         WriteSummary(file, report);
     }

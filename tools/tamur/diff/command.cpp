@@ -4,12 +4,10 @@
 
 #include <cmath>
 #include <memory>
-#include <new>
-#include <stdexcept>
 
 #include "../exit_code.h"
-#include "../import.h"
-#include "host/language.h"
+#include "../failure.h"
+#include "../options.h"
 #include "json.h"
 #include "text.h"
 
@@ -24,18 +22,12 @@ struct DiffOptions {
     std::string language;  // empty: the user's
     double tolerance = 0;
     bool showsAll = false;
+    bool isQuiet = false;
 };
 
-// A model that was not imported is not a different one.
 Imported ImportWhole(const DiffOptions& options, const Input& input)
 {
-    try {
-        return Import(options.component, input);
-    } catch (const ImportRefused& refused) {
-        throw std::runtime_error(refused.what());
-    } catch (const std::bad_alloc&) {
-        throw std::runtime_error(input.Name() + ": not enough memory");
-    }
+    return NeedingTheModel(input.Name(), [&] { return Import(options.component, input); });
 }
 
 int Diff(const DiffOptions& options, const Console& console)
@@ -45,12 +37,12 @@ int Diff(const DiffOptions& options, const Console& console)
     const DiffResult result{.before = {before.Name(), from.version},
                             .after = {after.Name(), to.version},
                             .model = host::Compare(*from.reader, *to.reader, options.tolerance)};
-    if (options.format == "json") {
+    if (options.isQuiet) {
+        // The exit code says it.
+    } else if (options.format == "json") {
         WriteDiffJson(result, console.out);
     } else {
-        const auto language = host::ParseLanguage(options.language);
-        WriteDiffText(result, language.value_or(host::LanguageOfLocale()), options.showsAll,
-                      console.out);
+        WriteDiffText(result, LanguageOf(options.language), options.showsAll, console.out);
     }
     return result.IsEmpty() ? exit_code::kFine : exit_code::kDifferent;
 }
@@ -61,15 +53,17 @@ void AddDiffCommand(CLI::App& app, const std::string& component, Task& task)
 {
     const auto options = std::make_shared<DiffOptions>();
     CLI::App* const diff = app.add_subcommand("diff", "what changed from one file to another");
-    diff->footer("Exit codes: 0 the same; 1 different; 2 wrong usage, or a file was not imported.");
+    diff->footer(
+        "Examples:\n"
+        "  tamur diff monday.txt friday.txt\n"
+        "  tamur diff --tolerance 0.001 monday.txt friday.txt\n"
+        "  tamur diff --quiet monday.txt friday.txt || echo changed\n"
+        "Exit codes: 0 the same; 1 different; 2 wrong usage, or a file was not imported.");
     diff->add_option("BEFORE", options->before, "the model file before")->required()->type_name("");
     diff->add_option("AFTER", options->after, "the model file after")->required()->type_name("");
-    diff->add_option("--format", options->format, "text or json")
-        ->check(CLI::IsMember({"text", "json"}))
-        ->type_name("NAME");
-    diff->add_option("--lang", options->language, "en or fr, instead of the user's language")
-        ->check(CLI::IsMember({"en", "fr"}))
-        ->type_name("NAME");
+    AddChoice(*diff, "--format", options->format, {"text", "json"}, "text (default) or json");
+    AddLanguage(*diff, options->language);
+    AddQuiet(*diff, options->isQuiet);
     diff->add_option("--tolerance", options->tolerance,
                      "coordinates that far apart are the same, and other reals that differ by that "
                      "part of the larger one")

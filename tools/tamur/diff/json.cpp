@@ -96,7 +96,7 @@ Json SummaryOf(const host::ModelDiff& diff)
 void WriteDiffJson(const DiffResult& result, std::ostream& out)
 {
     const host::ModelDiff& diff = result.model;
-    JsonDocument document(out, false);
+    JsonDocument document(out);
     document.Member("same", result.IsEmpty());
     document.Member("before", JsonOf(result.before));
     document.Member("after", JsonOf(result.after));

@@ -8,6 +8,7 @@
 #include "../exit_code.h"
 #include "../import.h"
 #include "../input.h"
+#include "../options.h"
 #include "../progress.h"
 #include "host/export/export.h"
 #include "host/findings/plain_text.h"
@@ -27,6 +28,7 @@ struct ExportArguments {
     std::string language;
     host::Wanted wanted;
     bool mayReplace = false;
+    bool isQuiet = false;
 };
 
 std::string NamesOfTargets()
@@ -60,7 +62,7 @@ int Export(const ExportArguments& options, const Console& console)
     host::Findings findings(kFindingsOfEach);
     host::ImportedFile file;
     {
-        const Progress progress(console.errors, console.isErrorsTerminal,
+        const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                                 "tamur: reading " + input.Name());
         file = host::ImportFile(input.Path(), findings);
     }
@@ -78,14 +80,14 @@ int Export(const ExportArguments& options, const Console& console)
     host::ExportReport report;
     {
         const StopSignals signals(report.steps);
-        const Progress progress(console.errors, console.isErrorsTerminal,
+        const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                                 "tamur: writing " + host::Utf8Of(what.output),
                                 [&report] { return report.steps.Percent(); });
         host::ExportModel(input.Name(), file, findings, target, what, report);
     }
-    const auto language = host::ParseLanguage(options.language);
+    if (options.isQuiet) return exit_code::kFine;
     console.out << host::PlainText(host::Utf8Of(what.output)) << '\n';
-    WriteSummary(report.losses, language ? *language : host::LanguageOfLocale(), console.out);
+    WriteSummary(report.losses, LanguageOf(options.language), console.out);
     return exit_code::kFine;
 }
 
@@ -98,6 +100,10 @@ std::string Footer()
                 std::string(target.what.In(host::Language::kEnglish)) + '\n';
     }
     return text +
+           "Examples:\n"
+           "  tamur export hall.txt --to xlsx\n"
+           "  tamur export hall.txt -o hall.saf.xlsx --force\n"
+           "  tamur export hall.txt --to vtu --case 101\n"
            "Exit codes: 0 written; 1 the file was not imported; 2 wrong usage, or the output "
            "cannot be\nwritten: then nothing is, and what was there stays.";
 }
@@ -110,9 +116,7 @@ void AddExportCommand(CLI::App& app, Task& task)
     CLI::App* const command =
         app.add_subcommand("export", "the model in a form that other programs read");
     command->footer(Footer());
-    command->add_option("FILE", options->file, "the model file; - is standard input")
-        ->required()
-        ->type_name("");
+    AddFile(*command, options->file);
     command->add_option("--to", options->target, "what to write (default: by the name of OUT)")
         ->type_name("KIND");
     command
@@ -132,9 +136,8 @@ void AddExportCommand(CLI::App& app, Task& task)
         ->allow_extra_args(false)
         ->type_name("GROUP");
     command->add_flag("--force", options->mayReplace, "replace what is there");
-    command->add_option("--lang", options->language, "en or fr (default: the user's locale)")
-        ->check(CLI::IsMember({"en", "fr"}))
-        ->type_name("LANGUAGE");
+    AddLanguage(*command, options->language);
+    AddQuiet(*command, options->isQuiet);
     command->callback([&task, options] {
         task = [options](const Console& console) { return Export(*options, console); };
     });

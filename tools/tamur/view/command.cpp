@@ -10,6 +10,7 @@
 #include "../exit_code.h"
 #include "../import.h"
 #include "../input.h"
+#include "../options.h"
 #include "../progress.h"
 #include "host/export/output.h"
 #include "host/findings/plain_text.h"
@@ -30,6 +31,7 @@ struct ViewOptions {
     std::string output;
     bool mayReplace = false;
     bool opens = false;
+    bool isQuiet = false;
 };
 
 fs::path OutputOf(const ViewOptions& options, const Input& input)
@@ -55,9 +57,9 @@ std::string NameOf(const Input& input)
     return host::Utf8Of(host::PathOf(input.Name()).filename());
 }
 
-std::string MakePage(const Input& input, const Console& console)
+std::string MakePage(const ViewOptions& options, const Input& input, const Console& console)
 {
-    const Progress progress(console.errors, console.isErrorsTerminal,
+    const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                             "tamur: reading " + input.Name());
     host::Findings findings(kShownOfEach);
     host::view::PageOfAFile page = host::view::PageOfFile(input.Path(), NameOf(input), findings);
@@ -79,8 +81,8 @@ int View(const ViewOptions& options, const Console& console)
 {
     const Input input(options.file, console.in);
     const fs::path path = OutputOf(options, input);
-    Write(MakePage(input, console), path, options.mayReplace);
-    console.out << host::PlainText(host::Utf8Of(path), kLongestPath) << '\n';
+    Write(MakePage(options, input, console), path, options.mayReplace);
+    if (!options.isQuiet) console.out << host::PlainText(host::Utf8Of(path), kLongestPath) << '\n';
     if (options.opens) OpenPage(path);
     return exit_code::kFine;
 }
@@ -93,11 +95,12 @@ void AddViewCommand(CLI::App& app, Task& task)
     CLI::App* const command = app.add_subcommand(
         "view", "the model as one page that any browser shows, without a network");
     command->footer(
+        "Examples:\n"
+        "  tamur view hall.txt --open\n"
+        "  tamur view hall.txt -o pages/hall.html\n"
         "Exit codes: 0 written; 1 the file was not imported; 2 wrong usage, or the page cannot be "
         "written\nor opened.");
-    command->add_option("FILE", options->file, "the model file; - is standard input")
-        ->required()
-        ->type_name("");
+    AddFile(*command, options->file);
     command
         ->add_option("-o,--output", options->output,
                      "where (default: the name of FILE with .html, in this folder)")
@@ -105,6 +108,7 @@ void AddViewCommand(CLI::App& app, Task& task)
     command->add_flag("--open", options->opens, "show it in the browser");
     command->add_flag("--force", options->mayReplace,
                       "replace a file that is no page of this command");
+    AddQuiet(*command, options->isQuiet);
     command->callback([&task, options] {
         task = [options](const Console& console) { return View(*options, console); };
     });

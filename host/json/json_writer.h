@@ -29,6 +29,14 @@ class JsonWriter {
         Put(bracket);
         isFirst_ = false;
     }
+    // What comes next begins a line.
+    void NextLine()
+    {
+        if (!isFirst_) Put(',');
+        Put('\n');
+        isFirst_ = true;
+    }
+    void EndLine() { Put('\n'); }
     // A short name that needs no escapes.
     void Key(std::string_view name)
     {
@@ -54,7 +62,8 @@ class JsonWriter {
         Separate();
         PutNumber(number);
     }
-    // UTF-8, and as the records have it.
+    // UTF-8, and as the records have it. Control characters are escaped, those after ASCII too:
+    // terminals obey them.
     void Text(std::string_view text);
     void Text(WideStringView text);
     void Null() { PutWord("null"); }
@@ -92,6 +101,7 @@ class JsonWriter {
     }
     void Put(std::string_view text);
     void PutCharacter(char c);
+    void PutEscape(unsigned char code);
     void PutWord(std::string_view word)
     {
         Separate();

@@ -1,4 +1,4 @@
-#include "host/export/glb/json_writer.h"
+#include "host/json/json_writer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,22 +15,33 @@ void JsonWriter::Number(double number)
     if (isWhole) return Number(static_cast<std::int64_t>(number));
     if (std::isnan(number)) return Text("nan");
     if (std::isinf(number)) return Text(number > 0 ? "inf" : "-inf");
+    // Without a point it would be a whole number, which has no sign.
+    if (number == 0) return PutWord("-0.0");
     Separate();
     PutNumber(number);
 }
 
 void JsonWriter::Text(std::string_view text)
 {
+    constexpr char kLead = '\xC2';  // of U+0080 to U+00BF
     Separate();
     Put('"');
-    for (const char c : text) PutCharacter(c);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : '\0');
+        if (text[i] == kLead && next >= 0x80 && next < 0xA0) {
+            PutEscape(next);
+            ++i;
+        } else {
+            PutCharacter(text[i]);
+        }
+    }
     Put('"');
 }
 
 void JsonWriter::Text(WideStringView text)
 {
     constexpr std::size_t kShort = 1000;
-    const auto isPlain = [](OLECHAR c) { return c >= 0x20 && c < 0x80 && c != '"' && c != '\\'; };
+    const auto isPlain = [](OLECHAR c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; };
     if (text.size() > kShort || !std::all_of(text.begin(), text.end(), isPlain)) {
         return Text(ToUtf8(text));
     }
@@ -44,16 +55,19 @@ void JsonWriter::Text(WideStringView text)
 
 void JsonWriter::PutCharacter(char c)
 {
-    constexpr std::string_view kDigits = "0123456789abcdef";
+    constexpr unsigned char kDelete = 0x7F;
     const auto code = static_cast<unsigned char>(c);
-    if (code < 0x20) {
-        Put("\\u00");
-        Put(kDigits[code >> 4]);
-        Put(kDigits[code & 15]);
-        return;
-    }
+    if (code < 0x20 || code == kDelete) return PutEscape(code);
     if (c == '"' || c == '\\') Put('\\');
     Put(c);
+}
+
+void JsonWriter::PutEscape(unsigned char code)
+{
+    constexpr std::string_view kDigits = "0123456789abcdef";
+    Put("\\u00");
+    Put(kDigits[code >> 4]);
+    Put(kDigits[code & 15]);
 }
 
 void JsonWriter::Put(std::string_view text)

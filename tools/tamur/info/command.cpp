@@ -1,0 +1,79 @@
+#include "command.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+#include "../each_file.h"
+#include "../json_text.h"
+#include "../options.h"
+#include "../progress.h"
+#include "json.h"
+#include "text.h"
+
+namespace tamur::tool {
+namespace {
+
+struct InfoOptions {
+    std::string component;
+    std::vector<std::string> files;
+    std::string language;
+    bool isJson = false;
+};
+
+ModelSummary SummaryOf(const InfoOptions& options, const std::string& file, const Console& console)
+{
+    const Input input(file, console.in);
+    const Progress progress(console.errors, console.isErrorsTerminal,
+                            "tamur: reading " + input.Name());
+    return Summarize(options.component, input);
+}
+
+int Info(const InfoOptions& options, const Console& console)
+{
+    const host::Language language = LanguageOf(options.language);
+    nlohmann::ordered_json models = nlohmann::ordered_json::array();
+    bool isFirst = true;
+    const int code = ForEachFile(options.files, console, [&](const std::string& file) {
+        const ModelSummary summary = SummaryOf(options, file, console);
+        if (options.isJson) {
+            models.push_back(JsonOf(summary));
+        } else {
+            if (!isFirst) console.out << '\n';
+            WriteInfo(summary, language, console.out);
+        }
+        isFirst = false;
+        return exit_code::kFine;
+    });
+    if (!models.empty()) {
+        const nlohmann::ordered_json document = {
+            {"tool", {{"name", "tamur"}, {"version", TAMUR_VERSION}}}, {"files", models}};
+        console.out << JsonText(document, 2) << '\n';
+    }
+    return code;
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& app, const std::string& component, Task& task)
+{
+    const auto options = std::make_shared<InfoOptions>();
+    CLI::App* const command = app.add_subcommand(
+        "info", "settings, extent, how many there are of everything, sums of loads and lengths");
+    command->footer(
+        "Examples:\n"
+        "  tamur info hall.txt\n"
+        "  tamur info --json export/*.txt > models.json\n"
+        "  unzip -p hall.zip hall.txt | tamur info -\n"
+        "Exit codes: 0 fine; 1 a file was not imported; 2 wrong usage, a file that cannot be read "
+        "to\nits end, no component, or the output cannot be written.");
+    AddFiles(*command, options->files);
+    command->add_flag("--json", options->isJson, "for programs: docs/info.md");
+    AddLanguage(*command, options->language);
+    command->callback([&task, &component, options] {
+        options->component = component;
+        task = [options](const Console& console) { return Info(*options, console); };
+    });
+}
+
+}  // namespace tamur::tool
