@@ -1,0 +1,40 @@
+#!/usr/bin/env python3
+"""Whether binaries contain the parts of others that third_party.json says, and no others of them.
+
+usage: check_contents.py NM BINARY...    NM lists their symbols, which they still have
+"""
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+import third_party
+
+
+def listed(binary: str) -> set[str]:
+    return {part["name"] for part in third_party.read_list()
+            if "mark" in part and binary in part["in"]}
+
+
+def found(nm: str, path: str) -> set[str]:
+    symbols = subprocess.run([nm, "--demangle", "--defined-only", path], check=True,
+                             capture_output=True, text=True).stdout
+    return {part["name"] for part in third_party.read_list()
+            if "mark" in part and part["mark"] in symbols}
+
+
+def main() -> int:
+    nm, *binaries = sys.argv[1:]
+    wrong = 0
+    for path in binaries:
+        name = re.sub(r"\.so\.[\d.]+$", ".so", Path(path).name)
+        is_there = found(nm, path)
+        for part in sorted(listed(name) ^ is_there):
+            print(f"{name}: {part} is {'in it' if part in is_there else 'not in it'}, "
+                  "against third_party.json")
+            wrong += 1
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

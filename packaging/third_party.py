@@ -1,0 +1,75 @@
+#!/usr/bin/env python3
+"""Makes THIRD-PARTY.md of third_party.json, where each part of others has its licence.
+
+usage: third_party.py [--check]    with --check it only tells whether THIRD-PARTY.md is up to date
+"""
+import json
+import re
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+DOCUMENT = ROOT / "THIRD-PARTY.md"
+HEAD = """\
+# What the binaries contain that is not ours
+
+TAMUR Reader itself is under the [MIT licence](LICENSE). Its binaries contain parts by others, which
+are listed here with their licences; the texts of these follow. None of the parts was changed. The
+sources of all of them are in Debian 12 or, for the page of `tamur view`, in the npm registry, under
+the name given. This file is made by `packaging/third_party.py`.
+"""
+ORIGINS = {"linux": "Debian package", "windows": "Debian package (Windows)",
+           "source": "Debian source package", "npm": "npm package"}
+
+
+def read_list() -> list[dict]:
+    return json.loads((ROOT / "packaging/third_party.json").read_text("utf-8"))["parts"]
+
+
+def identifiers(expression: str) -> list[str]:
+    """The licences and exceptions that an SPDX expression names."""
+    return [word for word in re.findall(r"[\w.+-]+", expression)
+            if word not in ("AND", "OR", "WITH")]
+
+
+def licence_text(identifier: str) -> str:
+    return (ROOT / "LICENSES" / f"{identifier}.txt").read_text("utf-8")
+
+
+def section(part: dict) -> str:
+    origins = "; ".join(f"{ORIGINS[kind]} `{name}`" for kind, name in part["from"].items())
+    copyrights = "\n".join(f"- Copyright © {line}" for line in part["copyright"])
+    binaries = ", ".join(f"`{name}`" for name in part["in"])
+    return (f"## {part['name']}\n\n"
+            f"{part['what']}. {part['home']} ({origins})\n\n"
+            f"In: {binaries}\n\n"
+            f"Licence: {part['licence']}\n\n{copyrights}\n")
+
+
+def document() -> str:
+    parts = read_list()
+    used = sorted({name for part in parts for name in identifiers(part["licence"])})
+    texts = [f"## {name}\n\n```\n{licence_text(name).rstrip()}\n```\n" for name in used]
+    return "\n".join([HEAD, *map(section, parts), "# Texts of the licences\n", *texts])
+
+
+def packages_of_page() -> set[str]:
+    """What the page of `tamur view` is built of."""
+    return set(json.loads((ROOT / "viewer/package.json").read_text("utf-8"))["dependencies"])
+
+
+def main() -> int:
+    text = document()
+    if sys.argv[1:] != ["--check"]:
+        DOCUMENT.write_text(text, "utf-8")
+    elif DOCUMENT.read_text("utf-8") != text:
+        print("THIRD-PARTY.md is not what packaging/third_party.py makes", file=sys.stderr)
+        return 1
+    if {part["from"].get("npm") for part in read_list()} - {None} != packages_of_page():
+        print("third_party.json and viewer/package.json name different packages", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
