@@ -1,28 +1,30 @@
 # Everything that is made from the contract, idl/TAMURReader.idl.
-find_program(WIDL NAMES x86_64-w64-mingw32-widl REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
-set(WINE_INCLUDE_DIR /usr/include/wine/wine/windows CACHE PATH "The system's IDL files")
-set(WINE_LIBRARY_DIR /usr/lib/x86_64-linux-gnu/wine/x86_64-windows CACHE PATH "stdole2.tlb")
 
 set(idl_dir ${PROJECT_SOURCE_DIR}/idl)
 set(generated_dir ${PROJECT_BINARY_DIR}/generated)
-set(widl ${WIDL} -I ${WINE_INCLUDE_DIR} -L ${WINE_LIBRARY_DIR})
 
-# widl notes its own file name and, in the type library, the time; both are taken out again, so
-# that two builds give the same bytes.
+# What widl makes for compilers is committed, so that only the Windows build needs it: for the type
+# library.
+set(widl_headers ${idl_dir}/generated/TAMURReader.h ${idl_dir}/generated/TAMURReader_i.c)
 add_custom_command(
     OUTPUT ${generated_dir}/TAMURReader.h ${generated_dir}/TAMURReader_i.c
-           ${generated_dir}/TAMURReader.tlb
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${generated_dir}/tamur
-    COMMAND ${widl} -h -o ${generated_dir}/TAMURReader.h TAMURReader.idl
-    COMMAND ${widl} -u -o ${generated_dir}/TAMURReader_i.c TAMURReader.idl
-    COMMAND ${widl} -t -o ${generated_dir}/TAMURReader.tlb TAMURReader.idl
-    COMMAND ${Python3_EXECUTABLE} ${idl_dir}/fix_type_library_time.py
-            ${generated_dir}/TAMURReader.tlb
-    DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/fix_type_library_time.py
-    WORKING_DIRECTORY ${idl_dir}
-    COMMENT "Contract: header, identifiers, type library"
+    COMMAND ${CMAKE_COMMAND} -E copy ${widl_headers} ${generated_dir}
+    DEPENDS ${widl_headers}
+    COMMENT "Contract: header, identifiers"
     VERBATIM)
+if(WIN32)
+    set(widl_dir ${PROJECT_BINARY_DIR}/widl)
+    set(type_library ${generated_dir}/TAMURReader.tlb)
+    add_custom_command(
+        OUTPUT ${type_library}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${widl_dir}
+        COMMAND ${idl_dir}/run_widl ${widl_dir}
+        COMMAND ${CMAKE_COMMAND} -E copy ${widl_dir}/TAMURReader.tlb ${type_library}
+        DEPENDS ${idl_dir}/TAMURReader.idl ${idl_dir}/run_widl ${idl_dir}/fix_type_library_time.py
+        COMMENT "Contract: type library"
+        VERBATIM)
+endif()
 
 add_custom_command(
     OUTPUT ${generated_dir}/tamur/fields.h
@@ -77,7 +79,8 @@ add_custom_command(
 add_custom_target(bindings ALL DEPENDS ${bindings_dir}/tamur_reader.py
                                        ${bindings_dir}/TAMURReader.cs)
 
-add_custom_target(contract DEPENDS ${generated_dir}/TAMURReader.h
+add_custom_target(contract DEPENDS ${type_library}
+                                   ${generated_dir}/TAMURReader.h
                                    ${generated_dir}/tamur/fields.h
                                    ${generated_dir}/tamur/tables.h
                                    ${generated_dir}/tamur/rows.h
@@ -86,14 +89,22 @@ add_custom_target(contract DEPENDS ${generated_dir}/TAMURReader.h
 # What hosts include; on other systems than Windows with the stand-ins for its headers.
 add_library(tamur_contract INTERFACE)
 add_dependencies(tamur_contract contract)
-target_include_directories(tamur_contract SYSTEM INTERFACE ${generated_dir})
-target_include_directories(tamur_contract INTERFACE ${PROJECT_SOURCE_DIR}/include)
+target_compile_features(tamur_contract INTERFACE cxx_std_20)
+target_include_directories(tamur_contract SYSTEM INTERFACE $<BUILD_INTERFACE:${generated_dir}>)
+target_include_directories(tamur_contract INTERFACE
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+    $<INSTALL_INTERFACE:${installed_headers}>)
 if(WIN32)
     # On Windows the header only declares the identifiers.
     set_source_files_properties(${generated_dir}/TAMURReader_i.c PROPERTIES GENERATED TRUE)
     add_library(tamur_identifiers OBJECT ${generated_dir}/TAMURReader_i.c)
     add_dependencies(tamur_identifiers contract)
-    target_sources(tamur_contract INTERFACE $<TARGET_OBJECTS:tamur_identifiers>)
+    target_sources(tamur_contract INTERFACE
+        $<BUILD_INTERFACE:$<TARGET_OBJECTS:tamur_identifiers>>
+        $<INSTALL_INTERFACE:${installed_headers}/TAMURReader_i.c>)
 else()
-    target_include_directories(tamur_contract SYSTEM INTERFACE ${PROJECT_SOURCE_DIR}/include/compat)
+    target_include_directories(tamur_contract SYSTEM INTERFACE
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include/compat>)
+    target_include_directories(tamur_contract INTERFACE
+        $<INSTALL_INTERFACE:${installed_headers}/compat>)
 endif()

@@ -3,7 +3,6 @@
 
 usage: check_contents.py NM BINARY...    NM lists their symbols, which they still have
 """
-import re
 import subprocess
 import sys
 from pathlib import Path
@@ -27,7 +26,7 @@ def main() -> int:
     nm, *binaries = sys.argv[1:]
     wrong = 0
     for path in binaries:
-        name = re.sub(r"\.so\.[\d.]+$", ".so", Path(path).name)
+        name = third_party.binary_name(Path(path))
         is_there = found(nm, path)
         for part in sorted(listed(name) ^ is_there):
             print(f"{name}: {part} is {'in it' if part in is_there else 'not in it'}, "

@@ -26,6 +26,11 @@ def read_list() -> list[dict]:
     return json.loads((ROOT / "packaging/third_party.json").read_text("utf-8"))["parts"]
 
 
+def binary_name(path: Path) -> str:
+    """As the list names it: without the version that a library ends with."""
+    return re.sub(r"\.so\.[\d.]+$", ".so", path.name)
+
+
 def identifiers(expression: str) -> list[str]:
     """The licences and exceptions that an SPDX expression names."""
     return [word for word in re.findall(r"[\w.+-]+", expression)

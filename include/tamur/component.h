@@ -15,6 +15,13 @@
 
 namespace tamur {
 
+// The component's file by the name that it keeps as long as the contract holds.
+#ifdef _WIN32
+inline constexpr const char* kComponentFile = "TAMURReader.dll";
+#else
+inline constexpr const char* kComponentFile = "libTAMURReader.so.1";
+#endif
+
 // A call of the component that did not succeed.
 class ComponentError : public std::runtime_error {
  public:
