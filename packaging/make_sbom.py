@@ -5,12 +5,10 @@ usage: make_sbom.py PACKAGE [FOLDER]    FOLDER has what is in it; not needed for
 
 Each file is listed with its checksum, and the parts of others in our binaries with the versions
 that are on this machine, where the package is made. Equal inputs give equal bytes: the time is that
-of SOURCE_DATE_EPOCH.
+of the release.
 """
-import datetime
 import hashlib
 import json
-import os
 import re
 import subprocess
 import sys
@@ -18,9 +16,9 @@ import tempfile
 import zipfile
 from pathlib import Path
 
+import release
 import third_party
 
-EPOCH = 1577836800  # as in other archives of ours
 LICENCE = "MIT"
 AUTHORS = "The TAMUR Reader developers"
 
@@ -40,11 +38,6 @@ def package_url(kind: str, name: str, version: str) -> str:
         return f"pkg:npm/{name}@{version}"
     suffix = "?arch=source" if kind == "source" else ""
     return f"pkg:deb/debian/{name}@{version.replace('+', '%2B').replace(':', '%3A')}{suffix}"
-
-
-def own_version() -> str:
-    project = (third_party.ROOT / "CMakeLists.txt").read_text("utf-8")
-    return re.search(r"project\(TAMURReader VERSION ([\d.]+)", project)[1]
 
 
 def unpack(package: Path, folder: str) -> None:
@@ -119,17 +112,15 @@ def add_file(bill: Bill, folder: Path, path: Path) -> str:
 
 
 def creation(authors: str) -> dict:
-    time = datetime.datetime.fromtimestamp(int(os.environ.get("SOURCE_DATE_EPOCH", EPOCH)),
-                                           datetime.timezone.utc)
     return {"type": "CreationInfo", "@id": "_:creation", "specVersion": "3.0.1",
-            "created": time.strftime("%Y-%m-%dT%H:%M:%SZ"), "createdBy": [authors]}
+            "created": f"{release.day()}T00:00:00Z", "createdBy": [authors]}
 
 
 def document(packed: Path, folder: Path) -> dict:
     bill = Bill(packed.name)
     authors = bill.add("Organization", "authors", name=AUTHORS)
     package = bill.add("software_Package", "package", name=packed.name,
-                       software_packageVersion=own_version(), verifiedUsing=checksum(packed),
+                       software_packageVersion=release.version(), verifiedUsing=checksum(packed),
                        software_copyrightText=f"Copyright 2026 {AUTHORS}", suppliedBy=authors)
     bill.licence(package, LICENCE)
     files = sorted(path for path in folder.rglob("*") if path.is_file() and not path.is_symlink())
