@@ -5,6 +5,19 @@
 #include "host/structure/read_model.h"
 
 namespace tamur::host {
+namespace {
+
+// Whoever chose a part is told what that left out.
+void AddNotSelected(const Selection& selection, Losses& losses)
+{
+    static constexpr LossText kNotSelected = {LossType::kNot, {{"not selected", "non choisi"}}};
+    for (int i = 0; i < kKindCount; ++i) {
+        const Kind kind = static_cast<Kind>(i);
+        losses.Add(kind, kNotSelected, selection.LeavesOut(kind));
+    }
+}
+
+}  // namespace
 
 std::filesystem::path DefaultOutput(const std::string& name, const Target& target)
 {
@@ -29,6 +42,7 @@ void ExportModel(const std::string& name, const ImportedFile& file, Findings& fi
     const Source source{name, file, reader, structure, cases, selection, findings};
     const auto path = options.output.empty() ? DefaultOutput(name, target) : options.output;
     target.write(source, path, output, report);
+    AddNotSelected(selection, report.losses);
     report.steps.StopIfAsked();
     output.Commit();
 }

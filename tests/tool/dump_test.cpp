@@ -88,6 +88,20 @@ TEST(Dump, TextsAreUtf8AndNullIsNotEmpty)
     EXPECT_EQ(bar["ErrorMessage"], nullptr);
 }
 
+// Terminals obey them.
+TEST(Dump, ControlCharactersAreEscaped)
+{
+    const TemporaryFile file(ModelText()
+                                 .Section("#Cas", {"1 a\x7F"
+                                                   "b\x81\x9D\x1B[31mc 1 G 0"})
+                                 .Text());
+    const std::string output = RunTool({"dump", "--select", "cases", file.Path()}).output;
+    EXPECT_THAT(output, testing::HasSubstr(R"("a\u007fb\u0081\u009d\u001b[31mc")"));
+    EXPECT_EQ(json::parse(output)["Cas"][0]["Titre"],
+              "a\x7F"
+              "b\u0081\u009D\x1B[31mc");
+}
+
 TEST(Dump, TheCodeOfAnOutlineIsACharacterAndFlagsAreNumbers)
 {
     const json dump =

@@ -164,6 +164,29 @@ TEST(Export, TakesTheGroupsAndCasesThatItIsTold)
     EXPECT_EQ(exported({"--case", "3"}), (Found{{"11", "12"}, {"1", "2"}, {"22"}, {"31"}}));
 }
 
+TEST(Export, SaysWhatWasNotSelected)
+{
+    const TemporaryFile model(TwoGroups());
+    for (const char* kind : {"csv", "xlsx", "saf", "vtu", "glb"}) {
+        const ExportFolder folder;
+        const auto summary = [&](std::vector<std::string> options) {
+            const std::vector<std::string> command = {"export",  model.Path(), "--to",      kind,
+                                                      "--force", "-o",         folder / "m"};
+            options.insert(options.begin(), command.begin(), command.end());
+            return RunTool(options).output;
+        };
+        const std::string part = summary({"--group", "Poutres", "--case", "2", "--lang", "en"});
+        EXPECT_THAT(part, AllOf(HasSubstr("not written:\n"), HasSubstr("  bar (1): not selected\n"),
+                                HasSubstr("  node (1): not selected\n"),
+                                HasSubstr("  point support (1): not selected\n"),
+                                HasSubstr("  point load (2): not selected\n")))
+            << kind;
+        EXPECT_THAT(summary({"--group", "Poutres", "--lang", "fr"}),
+                    HasSubstr("  filaire (1) : non choisi\n"));
+        EXPECT_THAT(summary({}), testing::Not(HasSubstr("not selected"))) << kind;
+    }
+}
+
 TEST(Export, CallsSumsThoseOfTheWholeModelBesideAPartOfIt)
 {
     const TemporaryFile model(TwoGroups());
