@@ -2,6 +2,11 @@
 include(CMakePackageConfigHelpers)
 set(cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TAMURReader)
 
+if(TAMUR_DEBIAN_PACKAGES)
+    # There it is compressed.
+    set(not_in_debian PATTERN man EXCLUDE)
+endif()
+
 # install_library(TARGET NAME): as TAMURReader::NAME.
 function(install_library target name)
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
@@ -53,17 +58,18 @@ if(TARGET tamur_library)
     install_library(tamur_library tamur)
     install(TARGETS tamur RUNTIME COMPONENT tool)
     if(TARGET tool_description)
-        install(DIRECTORY ${description_dir}/ DESTINATION ${CMAKE_INSTALL_DATADIR} COMPONENT tool)
+        install(DIRECTORY ${description_dir}/ DESTINATION ${CMAKE_INSTALL_DATADIR} COMPONENT tool
+            ${not_in_debian})
     endif()
     if(NOT WIN32)
         install_pkg_config(libtamur)
     endif()
 endif()
 
-foreach(component runtime development tool)
+if(NOT TAMUR_DEBIAN_PACKAGES)
     install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md
-        DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
-endforeach()
+        DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+endif()
 
 install(EXPORT TAMURReader NAMESPACE TAMURReader:: FILE TAMURReaderConfig.cmake
     DESTINATION ${cmake_dir} COMPONENT development)

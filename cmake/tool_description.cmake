@@ -1,7 +1,10 @@
 # The tool's manual page and its completions for shells, made of what the built tool says of itself. In
 # the folders that they are installed in.
 set(description_dir ${PROJECT_BINARY_DIR}/description)
-set(zsh_dir zsh/site-functions CACHE STRING "Where zsh looks for completions, in share/")
+set(zsh_dir zsh/site-functions)
+if(TAMUR_DEBIAN_PACKAGES)
+    set(zsh_dir zsh/vendor-completions)
+endif()
 set(descriptions man/man1/tamur.1 bash-completion/completions/tamur ${zsh_dir}/_tamur
     fish/vendor_completions.d/tamur.fish)
 list(TRANSFORM descriptions PREPEND ${description_dir}/)

@@ -55,6 +55,7 @@ def checksum(path: Path) -> list[dict]:
 class Bill:
     def __init__(self, name: str) -> None:
         self.base = f"urn:tamur-reader:{name}#"
+        self.parts = third_party.read_list(with_system_libraries=name.endswith(".deb"))
         self.elements: list[dict] = []
         self.licences: dict[str, str] = {}
 
@@ -104,8 +105,7 @@ def add_file(bill: Bill, folder: Path, path: Path) -> str:
     name = path.relative_to(folder).as_posix()
     file = bill.add("software_File", f"file/{name}", name=name, verifiedUsing=checksum(path))
     binary = third_party.binary_name(path)
-    parts = [add_part(bill, part, binary) for part in third_party.read_list()
-             if binary in part["in"]]
+    parts = [add_part(bill, part, binary) for part in bill.parts if binary in part["in"]]
     if parts:
         bill.relate(file, "hasStaticLink", parts)
     return file

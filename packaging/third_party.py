@@ -16,14 +16,18 @@ HEAD = """\
 TAMUR Reader itself is under the [MIT licence](LICENSE). Its binaries contain parts by others, which
 are listed here with their licences; the texts of these follow. None of the parts was changed. The
 sources of all of them are in Debian 12 or, for the page of `tamur view`, in the npm registry, under
-the name given. This file is made by `packaging/third_party.py`.
+the name given. In the packages for Debian are only those that are no libraries of the system. This
+file is made by `packaging/third_party.py`.
 """
 ORIGINS = {"linux": "Debian package", "windows": "Debian package (Windows)",
            "source": "Debian source package", "npm": "npm package"}
 
 
-def read_list() -> list[dict]:
-    return json.loads((ROOT / "packaging/third_party.json").read_text("utf-8"))["parts"]
+def read_list(with_system_libraries: bool = False) -> list[dict]:
+    """The parts; where the libraries of the system are linked without those that these are."""
+    parts = json.loads((ROOT / "packaging/third_party.json").read_text("utf-8"))["parts"]
+    return [part for part in parts
+            if not (with_system_libraries and part.get("isSystemLibrary"))]
 
 
 def binary_name(path: Path) -> str:
@@ -45,17 +49,21 @@ def section(part: dict) -> str:
     origins = "; ".join(f"{ORIGINS[kind]} `{name}`" for kind, name in part["from"].items())
     copyrights = "\n".join(f"- Copyright © {line}" for line in part["copyright"])
     binaries = ", ".join(f"`{name}`" for name in part["in"])
+    system = "; a library of the system" if part.get("isSystemLibrary") else ""
     return (f"## {part['name']}\n\n"
-            f"{part['what']}. {part['home']} ({origins})\n\n"
+            f"{part['what']}. {part['home']} ({origins}{system})\n\n"
             f"In: {binaries}\n\n"
             f"Licence: {part['licence']}\n\n{copyrights}\n")
 
 
-def document() -> str:
-    parts = read_list()
+def sections_and_texts(parts: list[dict]) -> str:
     used = sorted({name for part in parts for name in identifiers(part["licence"])})
     texts = [f"## {name}\n\n```\n{licence_text(name).rstrip()}\n```\n" for name in used]
-    return "\n".join([HEAD, *map(section, parts), "# Texts of the licences\n", *texts])
+    return "\n".join([*map(section, parts), "# Texts of the licences\n", *texts])
+
+
+def document() -> str:
+    return f"{HEAD}\n{sections_and_texts(read_list())}"
 
 
 def packages_of_page() -> set[str]:
