@@ -6,6 +6,7 @@ import posixpath
 import re
 import shutil
 import sys
+from functools import cache
 from pathlib import Path
 
 from mkdocs.exceptions import PluginError
@@ -26,6 +27,9 @@ BETTER = {"examples": "hosts/index.md", "include/tamur": "reference/cpp.md",
 LANGUAGES = {".c": "c", ".cpp": "cpp", ".cs": "csharp", ".h": "cpp", ".lua": "lua",
              ".py": "python", ".json": "json"}
 FENCES = re.compile(r"(^ *```.*?^ *```|`[^`\n]+`)", re.S | re.M)
+# A link that says where it leads and no more; a code in the text, and in a heading.
+BARE_LINK = re.compile(r"\[([\w/.-]+\.md)\]\(\1\)")
+CODE = re.compile(r"(?<![\w\[-])TMR\d{3}\b(?![^\[\n]*\]\()")
 COMMENT = re.compile(r"<!-- code: .*? -->\n?", re.S)
 LINK = re.compile(r"(?<=\]\()(?!\w+:|#)([^)\s#]+)(#[^)\s]*)?(?=[)\s])")
 
@@ -98,6 +102,29 @@ def _names_in(folder):
     return sorted(one.name for one in path.iterdir() if one.is_file()) if path.is_dir() else []
 
 
+def _relative(target, page):
+    return posixpath.relpath(target, posixpath.dirname(page) or ".")
+
+
+def _titles(nav):
+    """What the navigation calls each page."""
+    found = {}
+    for title, entry in (item for one in nav for item in one.items()):
+        found.update(_titles(entry) if isinstance(entry, list) else {entry: title})
+    return found
+
+
+@cache
+def _codes():
+    """Where each code of a finding is explained."""
+    found = {}
+    for page in ("check/file.md", "check/model.md"):
+        text = (ROOT / "docs" / page).read_text(encoding="utf-8")
+        for heading in re.findall(r"^### (TMR\d{3} .*)", text, re.M):
+            found[heading[:6]] = f"{page}#{slug_of(heading)}"
+    return found
+
+
 def on_page_markdown(markdown, page, config, files):
     name = page.file.src_path
 
@@ -110,10 +137,25 @@ def on_page_markdown(markdown, page, config, files):
             path = path.removeprefix("docs/")
         elif path not in AT_THE_ROOT:
             path = BETTER.get(path, f"{SOURCES}{path}.md")
-        return posixpath.relpath(path, posixpath.dirname(name) or ".") + (match[2] or "")
+        return _relative(path, name) + (match[2] or "")
+
+    titles = _titles(config["nav"])
+
+    def with_title(match):
+        path = _in_project(name, match[1]).removeprefix("docs/")
+        return f"[{titles.get(path, match[1])}]({match[1]})"
+
+    def code_link(match):
+        target = _codes().get(match[0])
+        return f"[{match[0]}]({_relative(target, name)})" if target else match[0]
+
+    def prose(part):
+        lines = LINK.sub(on_the_site, BARE_LINK.sub(with_title, COMMENT.sub("", part))).split("\n")
+        return "\n".join(line if line.startswith("#") else CODE.sub(code_link, line)
+                         for line in lines)
 
     parts = FENCES.split(markdown)
-    parts[::2] = [LINK.sub(on_the_site, COMMENT.sub("", part)) for part in parts[::2]]
+    parts[::2] = map(prose, parts[::2])
     # Code hosts want these escaped within code in tables, Python's Markdown does not.
     parts[1::2] = [part if part.lstrip().startswith("```") else part.replace("\\|", "|")
                    for part in parts[1::2]]
