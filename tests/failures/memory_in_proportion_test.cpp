@@ -106,6 +106,39 @@ TEST(MemoryInProportion, MessagesTakeNoTextUntilAskedFor)
     EXPECT_LT(memory.PeakBytes(), 9 * static_cast<std::int64_t>(text.size()));
 }
 
+// Each bar comes with both its outlines, which are freed with it: reading all bars takes the memory
+// of one.
+TEST(MemoryInProportion, BarsWithAHugeOutlineAreReadInTheMemoryOfOne)
+{
+    constexpr int kBars = 500;
+    constexpr std::int64_t kPoints = 49000;
+    constexpr auto kOutlines = static_cast<std::int64_t>(2 * kPoints * 2 * sizeof(double));
+    std::string text = ModelText()
+                           .Section("#Geometries", {"A 1 1 1 1 1 1 1 1 1 1 1 " +
+                                                    std::to_string(kPoints) + " F 0 1 2 3"})
+                           .Text() +
+                       "#Elements\n";
+    for (int i = 1; i <= kBars; ++i) {
+        const std::string line = ElementLine(2, i)
+                                     .Points({"0 0 0", "0 0 3"})
+                                     .Labels({"B"})
+                                     .Columns("1 1 0 0 1 1 1 1 1 1 0");
+        text += line + "\n";
+    }
+    const auto reader = Imported(text);
+    const MemoryWatch memory;
+    int read = 0;
+    for (const auto& bar : Records<TMRFilaire>(*reader)) {
+        read += bar->StartSection.epureSec.nbPoints == kPoints &&
+                bar->EndSection.epureSec.nbPoints == kPoints;
+    }
+    EXPECT_EQ(read, kBars);
+    EXPECT_GT(memory.PeakBytes(), kOutlines);
+    // The accessor is a copy of the table; its records are small.
+    EXPECT_LT(memory.PeakBytes(), kOutlines * 5 / 4);
+    EXPECT_EQ(memory.BlocksAlive(), 0);
+}
+
 // The limit is generous to small files; a model of a usual size takes little more than its file.
 TEST(MemoryInProportion, AnOrdinaryModelTakesLessThanThreeTimesItsFile)
 {
