@@ -9,6 +9,11 @@ const here = dirname(fileURLToPath(import.meta.url));
 const modules = join(here, '../build/viewer/node_modules');
 const { build } = await import(join(modules, 'esbuild/lib/main.js'));
 const output = process.argv[2];
+// The page is passed on without us, and so has the licences of what is in it.
+const { dependencies } = JSON.parse(readFileSync(join(here, 'package.json'), 'utf8'));
+const licences = Object.keys(dependencies).map(
+    (name) => `${name}:\n${readFileSync(join(modules, name, 'LICENSE'), 'utf8')}`,
+);
 
 async function bundle(entry) {
     const { outputFiles } = await build({
@@ -20,6 +25,7 @@ async function bundle(entry) {
         target: 'es2022',
         format: 'iife',
         legalComments: 'inline',
+        banner: { js: `/*!\n${licences.join('\n')}*/` },
         nodePaths: [modules],
         absWorkingDir: here,
     });
