@@ -5,6 +5,7 @@ and operators may speak for themselves.
 """
 import re
 import subprocess
+import sys
 import tempfile
 import xml.etree.ElementTree as ElementTree
 from collections.abc import Collection
@@ -15,7 +16,9 @@ ROOT = Path(__file__).resolve().parent.parent
 DOXYFILE = ROOT / "site" / "Doxyfile"
 CPP = ["component.h", "ranges.h", "records.h", "com_ptr.h", "utf8.h", "prog_ids.h"]
 C = "tamur.h"
-INNER = "tamur::utf"  # a namespace of what the helpers themselves use
+# Headers that are made from the contract, by idl/generate_....py. Of their functions, one for each
+# record or table, the pages have those that are about all of them.
+MADE = ["fields", "tables"]
 IMPLIED = re.compile(r"operator|~")
 
 
@@ -35,9 +38,20 @@ class Member:
     line: int
 
 
+def make_headers(folder: str) -> str:
+    """As the build makes them; the folder that they are in."""
+    made = Path(folder, "made")
+    made.mkdir()
+    for name in MADE:
+        subprocess.run([sys.executable, "-B", ROOT / "idl" / f"generate_{name}.py",
+                        ROOT / "idl" / "TAMURReader.idl", made / f"{name}.h"], check=True)
+    return str(made)
+
+
 def doxygen(output: str) -> dict[str, ElementTree.Element]:
     """Every file, class and namespace, by its identifier. A warning is an error."""
-    settings = DOXYFILE.read_text(encoding="utf-8") + f"\nOUTPUT_DIRECTORY = {output}\n"
+    settings = (DOXYFILE.read_text(encoding="utf-8") + f"\nOUTPUT_DIRECTORY = {output}\n"
+                + f"INPUT += {make_headers(output)}\n")
     run = subprocess.run(["doxygen", "-"], input=settings, cwd=ROOT, text=True,
                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     if run.returncode != 0 or run.stdout.strip():
@@ -206,7 +220,19 @@ class HelperPages:
                  "[records](records.md).\n"]
         for name in CPP:
             parts += [f"## {name}\n", description(self.files[name]) + "\n", self._header(name)]
+        for name in (f"{made}.h" for made in MADE):
+            parts += [f"## {name}\n", description(self.files[name]) + "\n", self._made(name)]
         return "\n".join(parts)
+
+    def _made(self, name: str) -> str:
+        about_all = [one for one in self._free(name) if one.name.startswith("ForEach")]
+        return member_table(about_all, "tamur") if about_all else ""
+
+    def _free(self, name: str) -> list[Member]:
+        """What a header has outside of classes, for hosts."""
+        return [member for space in self.compounds.values()
+                if space.get("kind") == "namespace" and space.findtext("compoundname") == "tamur"
+                for member in members(space, of_file=f"/{name}")]
 
     def _header(self, name: str) -> str:
         file = self.files[name]
@@ -215,11 +241,7 @@ class HelperPages:
             compound = self.compounds[inner.get("refid")]
             if "Iterator" not in compound.findtext("compoundname"):
                 parts.append(class_section(compound, "###"))
-        free = []
-        for space in self.compounds.values():
-            if space.get("kind") == "namespace" and space.findtext("compoundname") == "tamur":
-                free += members(space, of_file=f"/{name}")
-        if free:
+        if free := self._free(name):
             parts += ["### Functions and types of " + name + "\n", member_table(free, "tamur")]
         return "\n".join(parts)
 
