@@ -16,11 +16,15 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object)
 extern HRESULT DllGetClassObject(REFCLSID classId, REFIID id, void** object);
 #endif
 
-static void Print(ITAMURStructureReader* reader)
+static void PrintText(BSTR text) /* null when there is none; in ASCII here */
+{
+    for (UINT i = 0; i < SysStringLen(text); ++i) putchar(text[i]);
+}
+
+static void PrintNodes(ITAMURStructureReader* reader)
 {
     LONG count = 0;
     ITMRNodeAccessor* nodes = NULL;
-    ITMRFilaireAccessor* bars = NULL;
     ITAMURStructureReader_GetNodeAccessor(reader, &nodes);
     ITMRNodeAccessor_GetNbNodes(nodes, &count);
     printf("nodes: %ld\nfirst label: ", (long)count);
@@ -28,15 +32,49 @@ static void Print(ITAMURStructureReader* reader)
         TMRNode node = {0};
         ITMRNodeAccessor_GetNodeAtRank(nodes, rank, &node);
         found = node.ElemLabels.nbLabels > 0;
-        for (UINT i = 0; found && i < SysStringLen(node.ElemLabels.tabLabels[0]); ++i) {
-            putchar(node.ElemLabels.tabLabels[0][i]); /* the label is lent: not to be freed */
-        }
-        CoTaskMemFree(node.ElemLabels.tabLabels); /* the block of labels is the host's */
+        if (found) PrintText(node.ElemLabels.tabLabels[0]); /* the label is lent: not to be freed */
+        CoTaskMemFree(node.ElemLabels.tabLabels);           /* the block of labels is the host's */
     }
     ITMRNodeAccessor_Release(nodes);
+}
+
+/* Every string and every array of a record is the host's. */
+static void FreeBar(TMRFilaire* bar)
+{
+    TMRSectionGeometry* sections[] = {&bar->StartSection, &bar->EndSection};
+    TMRAttache* releases[] = {&bar->StartConnection, &bar->EndConnection};
+    for (int i = 0; i < 2; ++i) {
+        SysFreeString(sections[i]->SectionLib);
+        CoTaskMemFree(sections[i]->epureSec.pTabPoints);
+        SysFreeString(releases[i]->AttacheLib);
+        SysFreeString(releases[i]->Titre);
+        SysFreeString(releases[i]->Geom);
+        SysFreeString(releases[i]->Def);
+    }
+    CoTaskMemFree(bar->ElemLabels.tabLabels);
+    SysFreeString(bar->ElementType);
+    SysFreeString(bar->ErrorMessage);
+    SysFreeString(bar->FilaireMaterial.MaterialName);
+    SysFreeString(bar->CogPosition);
+}
+
+static void PrintBars(ITAMURStructureReader* reader)
+{
+    LONG count = 0;
+    ITMRFilaireAccessor* bars = NULL;
     ITAMURStructureReader_GetFilaireAccessor(reader, &bars);
     ITMRFilaireAccessor_GetNbFilaires(bars, &count);
     printf("\nbars: %ld\n", (long)count);
+    for (LONG rank = 0; rank < count; ++rank) {
+        TMRFilaire bar = {0};
+        if (ITMRFilaireAccessor_GetFilaireAtRank(bars, rank, &bar) != S_OK) continue;
+        printf("  %ld: ", (long)bar.identifier);
+        PrintText(bar.StartSection.SectionLib);
+        printf(" in ");
+        PrintText(bar.FilaireMaterial.MaterialName);
+        printf(", length %ld\n", (long)bar.RealLength);
+        FreeBar(&bar);
+    }
     ITMRFilaireAccessor_Release(bars);
 }
 
@@ -53,7 +91,10 @@ int main(int argc, char** argv)
     BSTR file = SysAllocString(name);
     const HRESULT result = ITAMURStructureReader_Import(reader, file);
     SysFreeString(file);
-    if (result == S_OK) Print(reader);
+    if (result == S_OK) {
+        PrintNodes(reader);
+        PrintBars(reader);
+    }
     ITAMURStructureReader_Release(reader); /* last: accessors and labels need it */
     return result == S_OK ? 0 : 1;
 }

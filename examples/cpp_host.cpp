@@ -10,14 +10,19 @@
 
 namespace {
 
+// In the character set of file names.
+std::string Text(BSTR text)
+{
+    return std::filesystem::path(tamur::ViewOf(text)).string();
+}
+
 // The first label of the model's nodes and bars; empty when there is none. Labels are lent: they
 // live as long as the reader, so the text is copied.
 std::string FirstLabel(ITAMURStructureReader& reader)
 {
     const auto firstOf = [](const TMRElementLabels& labels) {
         if (labels.nbLabels == 0) return std::string();
-        const auto text = tamur::ViewOf(labels.tabLabels[0]);
-        return std::filesystem::path(text).string();  // in the character set of file names
+        return Text(labels.tabLabels[0]);
     };
     for (const auto& node : tamur::Nodes(reader)) {
         if (const std::string label = firstOf(node->ElemLabels); !label.empty()) return label;
@@ -26,6 +31,16 @@ std::string FirstLabel(ITAMURStructureReader& reader)
         if (const std::string label = firstOf(bar->ElemLabels); !label.empty()) return label;
     }
     return {};
+}
+
+void PrintBars(ITAMURStructureReader& reader)
+{
+    for (const auto& bar : tamur::Filaires(reader)) {
+        std::printf("  %ld: %s in %s, length %ld\n", static_cast<long>(bar->identifier),
+                    Text(bar->StartSection.SectionLib).c_str(),
+                    Text(bar->FilaireMaterial.MaterialName).c_str(),
+                    static_cast<long>(bar->RealLength));
+    }
 }
 
 }  // namespace
@@ -45,6 +60,7 @@ int main(int argc, char** argv)
         std::printf("nodes: %ld\n", static_cast<long>(tamur::Nodes(*reader).Size()));
         std::printf("bars: %ld\n", static_cast<long>(tamur::Filaires(*reader).Size()));
         std::printf("first label: %s\n", FirstLabel(*reader).c_str());
+        PrintBars(*reader);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "cpp_host: %s\n", error.what());
         return 1;

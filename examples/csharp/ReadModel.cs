@@ -51,6 +51,32 @@ internal static class ReadModel
         }
     }
 
+    private static void PrintBars(ITAMURStructureReader reader)
+    {
+        ITMRFilaireAccessor bars;
+        Marshal.ThrowExceptionForHR(reader.GetFilaireAccessor(out bars));
+        try
+        {
+            int count;
+            Marshal.ThrowExceptionForHR(bars.GetNbFilaires(out count));
+            Console.WriteLine("bars: {0}", count);
+            for (int rank = 0; rank < count; ++rank)
+            {
+                TMRFilaire bar;
+                Marshal.ThrowExceptionForHR(bars.GetFilaireAtRank(rank, out bar));
+                Console.WriteLine("  {0}: {1} in {2}, length {3}", bar.identifier,
+                                  Marshal.PtrToStringBSTR(bar.StartSection.SectionLib),
+                                  Marshal.PtrToStringBSTR(bar.FilaireMaterial.MaterialName),
+                                  bar.RealLength);
+                bar.Free();
+            }
+        }
+        finally
+        {
+            Marshal.ReleaseComObject(bars);
+        }
+    }
+
     [STAThread]  // the component's objects belong to the thread that made them
     private static int Main(string[] arguments)
     {
@@ -66,6 +92,7 @@ internal static class ReadModel
             // A file that cannot be opened is reported in a message box.
             if (reader.Import(arguments[0]) != 0) return 1;
             PrintNodes(reader);
+            PrintBars(reader);
             return 0;
         }
         finally

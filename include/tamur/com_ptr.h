@@ -31,8 +31,10 @@ class ComPtr {
         *this = ComPtr();
         return &pointer_;
     }
+    // The same for out parameters that any interface may be written to.
     [[nodiscard]] void** PutVoid() { return reinterpret_cast<void**>(Put()); }
 
+    // Null when nothing is held. The reference stays this object's.
     [[nodiscard]] Interface* Get() const { return pointer_; }
     Interface* operator->() const { return pointer_; }
     Interface& operator*() const { return *pointer_; }

@@ -30,12 +30,14 @@ class ComponentError : public std::runtime_error {
     {
     }
 
+    // What the call answered.
     [[nodiscard]] HRESULT Result() const { return result_; }
 
  private:
     HRESULT result_;
 };
 
+// Throws ComponentError with "`what` failed" for a result that is a failure.
 inline void Check(HRESULT result, const char* what)
 {
     if (FAILED(result)) throw ComponentError(std::string(what) + " failed", result);
@@ -49,6 +51,7 @@ class String {
     String& operator=(const String&) = delete;
     ~String() { SysFreeString(text_); }
 
+    // Still this object's: for parameters that take a string in.
     [[nodiscard]] BSTR Get() const { return text_; }
 
  private:
@@ -99,11 +102,13 @@ class Component {
         return reinterpret_cast<Pointer>(function);
     }
 
+    // The component's own DllGetClassObject.
     [[nodiscard]] HRESULT GetClassObject(REFCLSID classId, REFIID riid, void** object) const
     {
         return getClassObject_(classId, riid, object);
     }
 
+    // Whether nothing of the component is held any more.
     [[nodiscard]] bool CanUnloadNow() const
     {
         return canUnloadNow_() == S_OK;

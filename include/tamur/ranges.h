@@ -2,8 +2,8 @@
 //
 //     for (const auto& node : tamur::Nodes(*reader)) use(node->identifier);
 //
-//     tamur::Records<TMRNode>(*reader)                        the same, by its record
-//     tamur::ForEachTable(*reader, [](const auto& table) {    every table
+//     tamur::Records<TMRNode>(*reader);                       // the same, by its record
+//     tamur::ForEachTable(*reader, [](const auto& table) {    // every table
 //         std::cout << table.PlainName() << ": " << table.Size() << '\n';
 //     });
 //
@@ -60,10 +60,12 @@ class Range {
         LONG rank_ = 0;
     };
 
-    // "AppuisPonctuels", and what an engineer says: "point supports".
+    // "AppuisPonctuels".
     [[nodiscard]] static const char* Name() { return Table::kName; }
+    // What an engineer says: "point supports".
     [[nodiscard]] static const char* PlainName() { return Table::kPlainName; }
 
+    // How many records there are: asked of the accessor each time.
     [[nodiscard]] LONG Size() const
     {
         LONG count = 0;
@@ -80,9 +82,12 @@ class Range {
         return record;
     }
 
+    // The first record.
     [[nodiscard]] Iterator begin() const { return Iterator(this, 0); }
+    // After the last record.
     [[nodiscard]] Iterator end() const { return Iterator(this, Size()); }
 
+    // For its further methods, such as GetModes of that of loads.
     [[nodiscard]] Accessor& TheAccessor() const { return *accessor_; }
 
  private:

@@ -21,6 +21,7 @@ inline WideStringView ViewOf(BSTR text)
 // Frees what a record's fields hold, by their types: strings, and the blocks of arrays. The
 // strings in the block of labels are the reader's and stay.
 struct FieldFreer {
+    // Called by VisitFields for a field that is held by value.
     template <class Value>
     void Field(const char*, Value& value)
     {
@@ -30,6 +31,7 @@ struct FieldFreer {
             VisitFields(value, *this);
         }
     }
+    // Called by VisitFields for an array.
     template <class Value>
     void Array(const char*, Value* values, int)
     {
@@ -59,7 +61,9 @@ class Record {
         return &record_;
     }
 
+    // The record, which stays this object's.
     [[nodiscard]] PublicRecord& Get() { return record_; }
+    // The same, to read.
     [[nodiscard]] const PublicRecord& Get() const { return record_; }
     const PublicRecord* operator->() const { return &record_; }
     const PublicRecord& operator*() const { return record_; }

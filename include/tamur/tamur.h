@@ -15,6 +15,7 @@
  *  - a text is its place in the table's texts, -1 where there is none (see TamurTextAt);
  *  - a reference is a place in another table, -1 where there is none;
  *  - a TamurList is values of a block: reals, integers, or texts, whose places are integers.
+ *
  * Texts are UTF-8. Quantities are as the file has them: the units in <tamur/rows.h> are what the
  * product writes.
  *
@@ -58,8 +59,9 @@ typedef struct TamurError {
     char text[1016];
 } TamurError;
 
-typedef struct TamurModel TamurModel;
+typedef struct TamurModel TamurModel; /* an imported model */
 
+/* A table whole: its rows, and the blocks that they lead into. */
 typedef struct TamurTable {
     const void* rows; /* of the type in <tamur/rows.h> */
     uint64_t count;

@@ -75,6 +75,7 @@ inline void Append(WideString& out, std::uint32_t c)
 
 }  // namespace utf
 
+// UTF-16 as UTF-8.
 [[nodiscard]] inline std::string ToUtf8(WideStringView text)
 {
     std::string out;
@@ -82,6 +83,7 @@ inline void Append(WideString& out, std::uint32_t c)
     return out;
 }
 
+// UTF-8 as UTF-16.
 [[nodiscard]] inline WideString FromUtf8(std::string_view text)
 {
     WideString out;

@@ -5,14 +5,29 @@ import os
 import re
 import shutil
 import subprocess
+import sys
 
 import pytest
 
 import tamur
 from conftest import GENERATED, PROJECT
 
-BLOCK = re.compile(r"```python\n(.*?)```\n(?:```text\n(.*?)```)?", re.S)
+sys.path.insert(0, str(PROJECT / "tests" / "docs"))
+from pages import blocks_of, pages  # noqa: E402
+
 FILES = 2000
+OF_THE_PACKAGE = ("docs/python.md", "docs/python-tutorial.md")
+
+
+def pieces_of(page):
+    """The code of a page, and what each piece of it prints."""
+    blocks = blocks_of(page)
+    return [(block.code, "".join(after.code for after in blocks
+                                 if after.before is block and after.language == "text"))
+            for block in blocks if block.language == "python" and not block.snippet]
+
+
+OTHERS = [page for page in pages() if page not in OF_THE_PACKAGE and pieces_of(page)]
 
 
 @pytest.fixture
@@ -28,15 +43,15 @@ def place(tmp_path, monkeypatch):
     copies = [shutil.copy(samples / f"{name}.txt", tmp_path / f"{name}.copy") for name in names]
     for number in range(FILES):
         os.link(copies[number % 3], tmp_path / "models" / f"{number:05}.txt")
+    (tmp_path / "samples").symlink_to(samples)
     monkeypatch.chdir(tmp_path)
     return tmp_path
 
 
 def run_page(name):
     """Runs the code of a page and returns its names."""
-    page = (PROJECT / "docs" / name).read_text(encoding="utf-8")
     names = {"__name__": "__main__"}
-    for code, expected in BLOCK.findall(page):
+    for code, expected in pieces_of(name):
         output = io.StringIO()
         with contextlib.redirect_stdout(output):
             exec(compile(code, name, "exec"), names)  # the page is ours
@@ -49,7 +64,7 @@ def plain(text):
 
 
 def test_the_page_of_the_package(place):
-    names = run_page("python.md")
+    names = run_page("docs/python.md")
     by_threads = pandas_of(names["pandas"], names, place)
     table = names["table"]  # by the cluster, the last recipe
     assert len(table) == FILES and table.equals(by_threads)
@@ -63,7 +78,7 @@ def pandas_of(pandas, names, place):
 
 
 def test_the_tutorial(place, tmp_path):
-    names = run_page("python-tutorial.md")
+    names = run_page("docs/python-tutorial.md")
     assert (place / "hall.png").read_bytes().startswith(b"\x89PNG")
     sums = subprocess.run([PROJECT / "build/native/tamur", "check", "--lang", "en", "--sums",
                            place / "hall.txt"], capture_output=True, text=True).stdout
@@ -73,10 +88,17 @@ def test_the_tutorial(place, tmp_path):
     assert sums.count("load case") == 4
 
 
+@pytest.mark.parametrize("page", OTHERS)
+def test_other_pages(page, place):
+    model = tamur.read("hall.txt", check=True)
+    model.export("hall-csv")
+    model.export("hall.xlsx")
+    run_page(page)
+
+
 def test_the_readme_as_in_a_clone():
     """With the package that `./dev python` imports, which is not installed."""
-    readme = (PROJECT / "README.md").read_text(encoding="utf-8")
-    [(code, _)] = BLOCK.findall(readme)
+    [(code, _)] = pieces_of("README.md")
     package = PROJECT / "build/native/python/package"
     code += "\nprint(tamur.__file__, m.bars['length'].sum())"
     answer = subprocess.run(["/usr/bin/python3", "-c", code], cwd=PROJECT, capture_output=True,

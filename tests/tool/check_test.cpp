@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <regex>
 #include <set>
 
@@ -135,24 +134,6 @@ TEST(Check, FindsEachMistakeOfTheFaultySample)
                     "TMR217", "TMR218", "TMR220", "TMR221", "TMR222", "TMR226", "TMR301", "TMR304",
                     "TMR306", "TMR315", "TMR402", "TMR403", "TMR408", "TMR413", "TMR416", "TMR420",
                     "TMR501", "TMR503", "TMR504", "TMR604", "TMR614", "TMR631"));
-}
-
-// The lines that two pages quote.
-TEST(Check, SaysWhatTheDocumentsSay)
-{
-    const std::string all = RunTool({"check", "--lang", "en", "--all", Sample("erreurs")}).output;
-    int quoted = 0;
-    for (const char* page : {TAMUR_DOCS "/../README.md", TAMUR_DOCS "/check.md"}) {
-        std::ifstream stream(page);
-        for (std::string line; std::getline(stream, line);) {
-            const std::size_t begin = line.find("samples/erreurs.txt:");
-            if (begin == std::string::npos) continue;
-            const std::size_t colon = line.find(':', begin);
-            EXPECT_THAT(all, HasSubstr("erreurs.txt" + line.substr(colon) + "\n")) << page;
-            ++quoted;
-        }
-    }
-    EXPECT_EQ(quoted, 8);
 }
 
 TEST(Check, SaysWhyAFileIsRefusedWhateverWasSelected)

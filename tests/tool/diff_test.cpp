@@ -83,32 +83,27 @@ TEST(Diff, TroubleIsToldApartFromDifferences)
     }
 }
 
-// Of docs/diff.md: the first indented lines after a text, and the first fenced ones.
-std::vector<std::string> Block(const std::string& document, const std::string& after)
+// Of docs/diff.md: the first block after a text, and its lines.
+std::string Block(const std::string& document, const std::string& after)
 {
-    std::istringstream rest(document.substr(document.find(after) + after.size()));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(rest, line);) {
-        if (line.starts_with("    ")) {
-            lines.push_back(line.substr(4));
-        } else if (!line.empty() && !lines.empty()) {
-            break;
-        }
-    }
-    return lines;
+    const std::size_t start =
+        document.find('\n', document.find("```", document.find(after) + after.size())) + 1;
+    return document.substr(start, document.find("```", start) - start);
 }
 
-std::string Fence(const std::string& document, const std::string& after)
+std::vector<std::string> LinesOfBlock(const std::string& document, const std::string& after)
 {
-    const std::size_t start = document.find("```\n", document.find(after)) + 4;
-    return document.substr(start, document.find("```", start) - start);
+    std::istringstream block(Block(document, after));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(block, line);) lines.push_back(line);
+    return lines;
 }
 
 TEST(Diff, SaysWhatItsPageSays)
 {
     const std::string page = ContentOf(TAMUR_DOCS "/diff.md");
-    const auto before = Block(page, "`samples/portique.txt`\n");
-    const auto after = Block(page, "in the next export:\n");
+    const auto before = LinesOfBlock(page, "`samples/portique.txt`\n");
+    const auto after = LinesOfBlock(page, "in the next export:\n");
     ASSERT_EQ(before.size(), 6u);
     ASSERT_EQ(before.size(), after.size());
     std::string next = ContentOf(Sample("portique"));
@@ -119,11 +114,11 @@ TEST(Diff, SaysWhatItsPageSays)
     }
     const TemporaryFile file(next);
     EXPECT_EQ(RunTool({"diff", "--lang", "en", Sample("portique"), file.Path()}).output,
-              Fence(page, "next.txt` says:"));
+              Block(page, "next.txt` says:"));
     const json document =
         json::parse(RunTool({"diff", "--format", "json", Sample("portique"), file.Path()}).output);
     EXPECT_THAT(document["changes"],
-                testing::Contains(json::parse(Fence(page, "with the published names:"))));
+                testing::Contains(json::parse(Block(page, "with the published names:"))));
 }
 
 TEST(Diff, SpeaksFrench)

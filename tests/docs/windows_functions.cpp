@@ -1,0 +1,4 @@
+// A block of functions for Windows.
+#include <windows.h>
+
+BLOCK
