@@ -3,16 +3,20 @@ include(CMakePackageConfigHelpers)
 set(cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/TAMURReader)
 
 if(TAMUR_DEBIAN_PACKAGES)
-    # There it is compressed.
+    # There it is compressed, and the C interface has a package of its own: it needs libraries that the
+    # component does not.
     set(not_in_debian PATTERN man EXCLUDE)
+    set(library_component library)
 endif()
 
-# install_library(TARGET NAME): as TAMURReader::NAME.
+# install_library(TARGET NAME [COMPONENT]): as TAMURReader::NAME.
 function(install_library target name)
+    set(component runtime ${ARGN})
+    list(GET component -1 component)
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
     install(TARGETS ${target} EXPORT TAMURReader
-        RUNTIME COMPONENT runtime
-        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+        RUNTIME COMPONENT ${component}
+        LIBRARY COMPONENT ${component} NAMELINK_COMPONENT development
         ARCHIVE COMPONENT development)
 endfunction()
 
@@ -55,7 +59,7 @@ if(TARGET tamur_host)
 endif()
 
 if(TARGET tamur_library)
-    install_library(tamur_library tamur)
+    install_library(tamur_library tamur ${library_component})
     install(TARGETS tamur RUNTIME COMPONENT tool)
     if(TARGET tool_description)
         install(DIRECTORY ${description_dir}/ DESTINATION ${CMAKE_INSTALL_DATADIR} COMPONENT tool

@@ -1,6 +1,7 @@
 # Packages for Debian, by CPack: a package for each component. Their libraries are the system's.
 set(maintainer "The TAMUR Reader developers <developers@tamur-reader.invalid>")
 set(runtime_package libtamurreader${PROJECT_VERSION_MAJOR})
+set(library_package libtamur${PROJECT_VERSION_MAJOR})
 set(development_package libtamurreader-dev)
 set(tool_package tamur)
 
@@ -19,7 +20,8 @@ add_custom_command(
 add_custom_target(debian_documents ALL
     DEPENDS ${documents_dir}/copyright ${documents_dir}/changelog.gz ${man_page})
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
-foreach(component runtime development tool)
+set(components runtime library development tool)
+foreach(component ${components})
     install(FILES ${documents_dir}/copyright ${documents_dir}/changelog.gz
         ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package} COMPONENT ${component})
@@ -33,7 +35,7 @@ set(CPACK_PACKAGE_CONTACT ${maintainer})
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL runtime development tool)
+set(CPACK_COMPONENTS_ALL ${components})
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -50,11 +52,18 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "reader of TAMUR models, run time
 ${about}
-This package has the component, and the C interface for other languages.")
+This package has the component.")
+
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "reader of TAMUR models, C interface
+${about}
+This package has the C interface to it, for programs in any language.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${runtime_package} (= ${PROJECT_VERSION}), ${library_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "reader of TAMUR models, development files
 ${about}
 This package has what programs that use it are built with.")
