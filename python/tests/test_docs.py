@@ -76,7 +76,7 @@ def test_the_tutorial(place, tmp_path):
 def test_the_readme_as_in_a_clone():
     """With the package that `./dev python` imports, which is not installed."""
     readme = (PROJECT / "README.md").read_text(encoding="utf-8")
-    [(code, _)] = BLOCK.findall(readme)
+    [code] = re.findall(r"```python\n(.*?)```", readme, re.S)
     package = PROJECT / "build/native/python/package"
     code += "\nprint(tamur.__file__, m.bars['length'].sum())"
     answer = subprocess.run(["/usr/bin/python3", "-c", code], cwd=PROJECT, capture_output=True,
