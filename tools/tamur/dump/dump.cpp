@@ -54,6 +54,7 @@ class Dump {
         out_.Key(name);
         return true;
     }
+
     // Always there: which model it is.
     void WriteOrigin()
     {
