@@ -75,6 +75,15 @@ if(NOT TAMUR_DEBIAN_PACKAGES)
         DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
 endif()
 
+# Its help texts name pages of them.
+if(TARGET tamur_library)
+    set(tool_documents ${CMAKE_INSTALL_DOCDIR})
+    if(TAMUR_DEBIAN_PACKAGES)
+        set(tool_documents ${CMAKE_INSTALL_DATADIR}/doc/tamur)
+    endif()
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${tool_documents} COMPONENT tool)
+endif()
+
 install(EXPORT TAMURReader NAMESPACE TAMURReader:: FILE TAMURReaderConfig.cmake
     DESTINATION ${cmake_dir} COMPONENT development)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TAMURReaderConfigVersion.cmake
