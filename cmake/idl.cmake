@@ -6,11 +6,12 @@ set(generated_dir ${PROJECT_BINARY_DIR}/generated)
 
 # What widl makes for compilers is committed, so that only the Windows build needs it: for the type
 # library.
-set(widl_headers ${idl_dir}/generated/TAMURReader.h ${idl_dir}/generated/TAMURReader_i.c)
+set(contract_header ${idl_dir}/generated/TAMURReader.h)
+set(contract_identifiers ${idl_dir}/generated/TAMURReader_i.c)
 add_custom_command(
     OUTPUT ${generated_dir}/TAMURReader.h ${generated_dir}/TAMURReader_i.c
-    COMMAND ${CMAKE_COMMAND} -E copy ${widl_headers} ${generated_dir}
-    DEPENDS ${widl_headers}
+    COMMAND ${CMAKE_COMMAND} -E copy ${contract_header} ${contract_identifiers} ${generated_dir}
+    DEPENDS ${contract_header} ${contract_identifiers}
     COMMENT "Contract: header, identifiers"
     VERBATIM)
 if(WIN32)
@@ -90,7 +91,7 @@ add_custom_target(contract DEPENDS ${type_library}
 # What hosts include; on other systems than Windows with the stand-ins for its headers.
 add_library(tamur_contract INTERFACE)
 add_dependencies(tamur_contract contract)
-target_compile_features(tamur_contract INTERFACE cxx_std_20)
+target_compile_features(tamur_contract INTERFACE cxx_std_17)
 target_include_directories(tamur_contract SYSTEM INTERFACE $<BUILD_INTERFACE:${generated_dir}>)
 target_include_directories(tamur_contract INTERFACE
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>

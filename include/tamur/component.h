@@ -4,6 +4,7 @@
 #include <TAMURReader.h>
 #include <tamur/com_ptr.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -37,10 +38,14 @@ class ComponentError : public std::runtime_error {
     HRESULT result_;
 };
 
-// Throws ComponentError with "`what` failed" for a result that is a failure.
+// Throws ComponentError with "`what` failed (0x80004005)" for a result that is a failure.
 inline void Check(HRESULT result, const char* what)
 {
-    if (FAILED(result)) throw ComponentError(std::string(what) + " failed", result);
+    if (SUCCEEDED(result)) return;
+    char number[16];
+    std::snprintf(number, sizeof number, "0x%08lX",
+                  static_cast<unsigned long>(result) & 0xFFFFFFFFul);
+    throw ComponentError(std::string(what) + " failed (" + number + ")", result);
 }
 
 // A string of the host's own.

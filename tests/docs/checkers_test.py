@@ -94,7 +94,8 @@ class HostOfTheReadme(unittest.TestCase):
             (place.folder / "samples").unlink()
             answer = run(["./host"], place.folder)
             self.assertEqual(answer.returncode, 1)
-            self.assertTrue(answer.stdout.endswith("\nhost: Import failed\n"), answer.stdout)
+            self.assertTrue(answer.stdout.endswith("\nhost: Import failed (0x80004005)\n"),
+                            answer.stdout)
 
 
 class Anchors(unittest.TestCase):
