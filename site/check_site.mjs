@@ -1,5 +1,6 @@
 // Reads the built site and opens it in Chromium, from its folder and without a network: nothing comes
-// from elsewhere, every link leads somewhere, the search finds, pages fit a telephone.
+// from elsewhere, every link leads somewhere, no text is taken for a tag, the search finds, pages fit a
+// telephone.
 // usage: node site/check_site.mjs [PICTURES]       a folder for pictures of some pages
 import { readdirSync, readFileSync } from 'node:fs';
 import { dirname, join, relative, resolve } from 'node:path';
@@ -82,7 +83,8 @@ async function open(width, height = 900) {
 
 const addressOf = (name) => `${pathToFileURL(site).href}/${name}`;
 
-// Every page on a telephone: what is too wide scrolls in itself, never the page.
+// Every page on a telephone: what is too wide scrolls in itself, never the page. A tag that HTML does not
+// have is text with an angle that was not escaped, and is not shown.
 const narrow = await open(390);
 for (const name of pages) {
     await narrow.goto(pathToFileURL(name).href);
@@ -90,6 +92,12 @@ for (const name of pages) {
         () => document.documentElement.scrollWidth - window.innerWidth,
     );
     if (tooWide > 0) troubles.push(`${relative(site, name)}: ${tooWide} pixels too wide`);
+    const unknown = await narrow.evaluate(() =>
+        [...document.querySelectorAll('*')]
+            .filter((one) => one instanceof HTMLUnknownElement || one.localName.includes('-'))
+            .map((one) => one.localName),
+    );
+    for (const tag of unknown) troubles.push(`${relative(site, name)}: no tag of HTML: <${tag}>`);
 }
 
 // A word, a code, a record, each found as a reader would.

@@ -103,7 +103,7 @@ def as_markdown(text: str) -> str:
     parts = re.split(r"(```.*?```|`[^`]*`)", text, flags=re.S)
     for i in range(0, len(parts), 2):
         parts[i] = re.sub(r"\bdocs/([\w-]+)\.md\b", r"[\1](../\1.md)",
-                          parts[i].replace("<", "\\<"))
+                          parts[i].replace("<", "&lt;"))
     return "".join(parts)
 
 

@@ -30,6 +30,8 @@ FENCES = re.compile(r"(^ *```.*?^ *```|`[^`\n]+`)", re.S | re.M)
 # A link that says where it leads and no more; a code in the text, and in a heading.
 BARE_LINK = re.compile(r"\[([\w/.-]+\.md)\]\(\1\)")
 CODE = re.compile(r"(?<![\w\[-])TMR\d{3}\b(?![^\[\n]*\]\()")
+# Who reads the site has it.
+ABOUT_THE_SITE = re.compile(r"^`\./dev site` makes a site .*?\n\n", re.S | re.M)
 COMMENT = re.compile(r"<!-- code: .*? -->\n?", re.S)
 LINK = re.compile(r"(?<=\]\()(?!\w+:|#)([^)\s#]+)(#[^)\s]*)?(?=[)\s])")
 
@@ -130,6 +132,10 @@ def on_page_markdown(markdown, page, config, files):
 
     if name.startswith(SOURCES):
         return markdown
+    if name == "README.md":
+        markdown, count = ABOUT_THE_SITE.subn("", markdown)
+        if count != 1:
+            raise PluginError("README.md: no paragraph says how this site is made")
 
     def on_the_site(match):
         path = _in_project(name, match[1])

@@ -8,8 +8,11 @@ set(tool_package tamur)
 # Documents where Debian has them, and as it has them.
 set(documents_dir ${PROJECT_BINARY_DIR}/documents)
 set(man_page ${PROJECT_BINARY_DIR}/documents/tamur.1.gz)
+set(components runtime library development tool)
+list(TRANSFORM components PREPEND ${documents_dir}/ OUTPUT_VARIABLE copyrights)
+list(TRANSFORM copyrights APPEND /copyright)
 add_custom_command(
-    OUTPUT ${documents_dir}/copyright ${documents_dir}/changelog.gz ${man_page}
+    OUTPUT ${copyrights} ${documents_dir}/changelog.gz ${man_page}
     COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/packaging/debian/documents.py
             ${documents_dir} ${maintainer} ${description_dir}/man/man1/tamur.1
     DEPENDS tool_description ${PROJECT_SOURCE_DIR}/packaging/debian/documents.py
@@ -18,11 +21,10 @@ add_custom_command(
     COMMENT "Documents of the packages"
     VERBATIM)
 add_custom_target(debian_documents ALL
-    DEPENDS ${documents_dir}/copyright ${documents_dir}/changelog.gz ${man_page})
+    DEPENDS ${copyrights} ${documents_dir}/changelog.gz ${man_page})
 install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
-set(components runtime library development tool)
 foreach(component ${components})
-    install(FILES ${documents_dir}/copyright ${documents_dir}/changelog.gz
+    install(FILES ${documents_dir}/${component}/copyright ${documents_dir}/changelog.gz
         ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package} COMPONENT ${component})
 endforeach()

@@ -18,7 +18,7 @@ AROUND = {
     "Elements": [],
 }
 SETTINGS = ["#Version", "12.1", "#Espace", "3", "#Tolerance", "0.001", "#Rigide", "0"]
-SIGNS = {"·": " ", "␚": "\x1a", "␀": "\0", "\\uFEFF": "\ufeff"}
+SIGNS = {"·": " ", "<SUB>": "\x1a", "<NUL>": "\0", "\\uFEFF": "\ufeff"}
 
 
 class ModelError(Exception):
