@@ -83,7 +83,9 @@ if(TARGET tamur_library)
     if(TAMUR_DEBIAN_PACKAGES)
         set(tool_documents ${CMAKE_INSTALL_DATADIR}/doc/tamur)
     endif()
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${tool_documents} COMPONENT tool)
+    # Not those for developers of hosts, which show the examples when they are made pages of the site.
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${tool_documents} COMPONENT tool
+        PATTERN hosts EXCLUDE)
 endif()
 
 install(EXPORT TAMURReader NAMESPACE TAMURReader:: FILE TAMURReaderConfig.cmake
