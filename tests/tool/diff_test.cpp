@@ -207,5 +207,23 @@ TEST(Diff, JsonHasExactValuesAndKeys)
                                                    "Groupes": {"changed": 1}})"));
 }
 
+// As `tamur info` says them, and not as the contract or the file counts them.
+TEST(Diff, SettingsAreToldInWords)
+{
+    EXPECT_THAT(RunTool({"diff", "--lang", "en", Sample("hall"), Sample("portique")}).output,
+                HasSubstr("~ settings: working space space frame -> plane frame\n"));
+    EXPECT_THAT(RunTool({"diff", "--lang", "fr", Sample("hall"), Sample("portique")}).output,
+                HasSubstr("~ réglages : espace de travail spatial -> plan\n"));
+    const auto group = [](const std::string& line) {
+        return ModelText().Section("#Groupes", {line});
+    };
+    EXPECT_THAT(Diff(group("2 3 1 A Oui"), group("2 3 2 A Non")).output,
+                AllOf(HasSubstr("~ group 3 (bar): number of the type 1 -> 2, type \""),
+                      HasSubstr("\", displayed yes -> no\n")));
+    EXPECT_THAT(Diff(group("2 3 1 A Oui"), group("2 3 2 A Non"), {"--lang", "fr"}).output,
+                AllOf(HasSubstr(" : numéro du type 1 -> 2, type \""),
+                      HasSubstr("\", affiché oui -> non\n")));
+}
+
 }  // namespace
 }  // namespace tamur::test
