@@ -2,6 +2,8 @@
 
 #include <sys/wait.h>
 
+#include <array>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
@@ -30,6 +32,14 @@ void ExpectUsageError(const ToolRun& run, const std::string& part)
     EXPECT_EQ(run.output, "");
     EXPECT_THAT(run.errors, AllOf(StartsWith("tamur: "), HasSubstr(part)));
     EXPECT_EQ(run.errors.find('\n'), run.errors.size() - 1) << run.errors;
+}
+
+// For a regular expression.
+std::string Escaped(const std::string& text)
+{
+    std::string escaped;
+    for (const char c : text) escaped += std::string(std::ispunct(c) ? "\\" : "") + c;
+    return escaped;
 }
 
 TEST(CommandLine, MissingFileIsRefusedWithOneLine)
@@ -123,6 +133,29 @@ TEST(CommandLine, HelpHasExamplesAndExitCodes)
                     AllOf(HasSubstr("Examples:\n"), HasSubstr("\n  tamur " + command + " "),
                           HasSubstr("Exit codes: 0 ")));
     }
+}
+
+// "A ..." would say that what follows is another value, which is taken for a file.
+TEST(CommandLine, HelpSaysHowSeveralValuesAreGiven)
+{
+    for (const auto& [command, option, entry] :
+         std::vector<std::array<std::string, 3>>{{"check", "--select", "CODE[,CODE...]"},
+                                                 {"check", "--ignore", "CODE[,CODE...]"},
+                                                 {"dump", "--select", "TABLE[,TABLE...]"},
+                                                 {"export", "--case", "N"},
+                                                 {"export", "--group", "GROUP"}}) {
+        EXPECT_THAT(RunTool({command, "--help"}).output,
+                    testing::ContainsRegex("\n  " + option + " " + Escaped(entry) +
+                                           " [^\n]*(\n      [^\n]*)*; may be repeated\n"));
+    }
+    const std::string three = Sample("erreurs");
+    const auto codes = [&](const std::vector<std::string>& options) {
+        std::vector<std::string> arguments = {"check", "--all", three};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return RunTool(arguments).output;
+    };
+    EXPECT_EQ(codes({"--select", "TMR1,TMR2"}), codes({"--select", "TMR1", "--select", "TMR2"}));
+    EXPECT_NE(codes({"--select", "TMR1,TMR2"}), codes({"--select", "TMR1"}));
 }
 
 // In a folder with the files that they speak of; what opens a browser or reads a pipe of another

@@ -3,7 +3,9 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "check/command.h"
@@ -18,12 +20,28 @@
 namespace tamur::tool {
 namespace {
 
+// "..." after a value says that several may follow it, which is not so where they are to be given
+// with commas or by repeating the option.
+class HelpTexts : public CLI::Formatter {
+ public:
+    std::string make_option_opts(const CLI::Option* option) const override
+    {
+        constexpr std::string_view kSeveral = " ...";
+        std::string text = Formatter::make_option_opts(option);
+        if (!option->get_allow_extra_args() && text.ends_with(kSeveral)) {
+            text.resize(text.size() - kSeveral.size());
+        }
+        return text;
+    }
+};
+
 // What the arguments ask for; a help text is written at once.
 Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
 {
     std::string component;
     CLI::App app("Shows what TAMUR Reader reads from a model file, and what is wrong with it.",
                  "tamur");
+    app.formatter(std::make_shared<HelpTexts>());
     app.footer(
         "Examples:\n"
         "  tamur info hall.txt                  what is in the model\n"
@@ -32,8 +50,9 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
         "  tamur export hall.txt --to xlsx      its tables as a workbook\n"
         "  tamur diff monday.txt friday.txt     what changed\n"
         "  tamur dump --select bars hall.txt    records as JSON\n"
-        "Exit codes: 0 fine; 1 something was found (check), is different (diff), or the file was "
-        "not\nimported (info, dump, export); 2 trouble. `tamur COMMAND --help` says more.");
+        "Exit codes: 0 fine; 1 something was found (check), is different (diff), or a file was "
+        "not\nimported (info, dump, export, view); 2 trouble, which for check and diff is a file "
+        "that was\nnot imported too. `tamur COMMAND --help` says more.");
     app.set_version_flag("--version", "tamur " TAMUR_VERSION);
     app.add_option("--component", component,
                    "read the model through this component, not the one that is built in")

@@ -126,13 +126,13 @@ void AddExportCommand(CLI::App& app, Task& task)
     command
         ->add_option("--case", options->wanted.cases,
                      "only the loads of this case; of a combination or an envelope, those of its "
-                     "cases")
+                     "cases; may be repeated")
         ->allow_extra_args(false)
         ->type_name("N");
     command
         ->add_option("--group", options->wanted.groups,
                      "only this group and what is on it: its title, or bars:3, surfaces:3, "
-                     "point-supports:3, line-supports:3, surface-supports:3")
+                     "point-supports:3, line-supports:3, surface-supports:3; may be repeated")
         ->allow_extra_args(false)
         ->type_name("GROUP");
     command->add_flag("--force", options->mayReplace, "replace what is there");
