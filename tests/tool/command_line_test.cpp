@@ -92,6 +92,41 @@ TEST(CommandLine, WordThatIsNoCommandIsNamed)
     ExpectUsageError(RunTool({"exprot", "a.txt"}), "exprot is no subcommand");
 }
 
+TEST(CommandLine, UsageErrorsNameTheHelpOfTheCommand)
+{
+    const std::string file = Sample("hall");
+    ExpectUsageError(RunTool({"info", "--color", "never", file}),
+                     "tamur: --color: there is no such option (see tamur info --help)\n");
+    ExpectUsageError(RunTool({"check", "--foo", "--bar", file}),
+                     ": --foo: there is no such option");
+    ExpectUsageError(RunTool({"check", "--foo=1", file}), ": --foo=1: there is no such option");
+    ExpectUsageError(RunTool({"dump", "--foo"}), "--foo: there is no such option (see tamur dump ");
+    ExpectUsageError(RunTool({"--foo"}),
+                     "tamur: --foo: there is no such option (see tamur --help)");
+    ExpectUsageError(RunTool({"dump", file, "b", "c"}), "tamur: b: one argument too many (see ");
+    ExpectUsageError(RunTool({"check", "--lang", "de", file}), "(see tamur check --help)\n");
+}
+
+TEST(CommandLine, OutputIsAFileOfItsOwn)
+{
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{"export", Sample("hall"), "--to", "csv", "-o", "-"},
+                                               {"view", "-o-", Sample("hall")}}) {
+        ExpectUsageError(RunTool(arguments),
+                         "--output: it is not written to standard output: name a file");
+        EXPECT_FALSE(std::filesystem::exists("-"));
+    }
+}
+
+TEST(CommandLine, StandardInputCanBeGivenOnce)
+{
+    const std::string input = "cat '" + Sample("hall") + "' |";
+    for (const auto& arguments : std::vector<std::vector<std::string>>{
+             {"diff", "-", "-"}, {"info", "-", Sample("hall"), "-"}, {"check", "-", "-"}}) {
+        ExpectUsageError(RunTool(arguments, input), "tamur: - can be given once: ");
+    }
+}
+
 TEST(CommandLine, ComponentThatCannotBeLoadedIsNamed)
 {
     ExpectUsageError(RunTool({"--component", "/no/such/component.so", "info", Sample("hall")}),

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,22 @@ class HelpTexts : public CLI::Formatter {
         return text;
     }
 };
+
+// What is missing matters less than what is in its place, and of that the first in the user's
+// order.
+std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error,
+                        const std::vector<std::string>& given)
+{
+    const bool isUnknown = dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr ||
+                           dynamic_cast<const CLI::RequiredError*>(&error) != nullptr;
+    const std::vector<std::string> unknown = app.remaining(true);
+    if (!isUnknown || unknown.empty()) return error.what();
+    const auto first =
+        std::find_first_of(given.begin(), given.end(), unknown.begin(), unknown.end());
+    const std::string& word = first == given.end() ? unknown.front() : *first;
+    if (word.starts_with('-')) return word + ": there is no such option";
+    return word + (app.get_subcommands().empty() ? " is no subcommand" : ": one argument too many");
+}
 
 // What the arguments ask for; a help text is written at once.
 Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
@@ -68,16 +85,16 @@ Task ReadCommandLine(std::vector<std::string> arguments, std::ostream& out)
     AddExportCommand(app, task);
     AddViewCommand(app, task);
 
+    const std::vector<std::string> given = arguments;
     try {
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the end
         app.parse(arguments);
     } catch (const CLI::Success& answer) {
         app.exit(answer, out, out);
-    } catch (const CLI::RequiredError&) {
-        // What is missing matters less than what stands in its place.
-        const std::vector<std::string> unknown = app.remaining();
-        if (unknown.empty()) throw;
-        throw CLI::ParseError(unknown.front() + " is no subcommand", CLI::ExitCodes::ExtrasError);
+    } catch (const CLI::ParseError& error) {
+        const auto used = app.get_subcommands();
+        throw std::runtime_error(WhatIsWrong(app, error, given) + " (see tamur " +
+                                 (used.empty() ? "" : used.front()->get_name() + " ") + "--help)");
     }
     return task;
 }
@@ -112,9 +129,6 @@ int RunCommandLine(std::vector<std::string> arguments, const Console& console)
         const int code = task(console);
         console.out.flush();
         return code;
-    } catch (const CLI::ParseError& error) {
-        return Fail(console.errors, exit_code::kTrouble,
-                    std::string(error.what()) + " (see tamur --help)");
     } catch (...) {
         return TellFailure(console.errors);
     }

@@ -1,5 +1,6 @@
 #include "input.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <random>
@@ -78,6 +79,13 @@ void Input::Spool(std::istream& in)
         std::error_code ignored;
         fs::remove(spooled_, ignored);
         throw;
+    }
+}
+
+void RequireOneStandardInput(const std::vector<std::string>& names)
+{
+    if (std::count(names.begin(), names.end(), "-") > 1) {
+        throw std::runtime_error("- can be given once: it is standard input");
     }
 }
 

@@ -119,10 +119,8 @@ void AddExportCommand(CLI::App& app, Task& task)
     AddFile(*command, options->file);
     command->add_option("--to", options->target, "what to write (default: by the name of OUT)")
         ->type_name("KIND");
-    command
-        ->add_option("-o,--output", options->output,
-                     "where (default: the name of FILE with another ending, in this folder)")
-        ->type_name("OUT");
+    AddOutput(*command, options->output,
+              "where (default: the name of FILE with another ending, in this folder)");
     command
         ->add_option("--case", options->wanted.cases,
                      "only the loads of this case; of a combination or an envelope, those of its "

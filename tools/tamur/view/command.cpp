@@ -101,10 +101,8 @@ void AddViewCommand(CLI::App& app, Task& task)
         "Exit codes: 0 written; 1 the file was not imported; 2 wrong usage, or the page cannot be "
         "written\nor opened.");
     AddFile(*command, options->file);
-    command
-        ->add_option("-o,--output", options->output,
-                     "where (default: the name of FILE with .html, in this folder)")
-        ->type_name("OUT");
+    AddOutput(*command, options->output,
+              "where (default: the name of FILE with .html, in this folder)");
     command->add_flag("--open", options->opens, "show it in the browser");
     command->add_flag("--force", options->mayReplace,
                       "replace a file that is no page of this command");
