@@ -50,6 +50,39 @@ TEST(CommandLine, MissingFileIsRefusedWithOneLine)
                   "the file cannot be opened: No such file or directory");
 }
 
+TEST(CommandLine, RefusalsSpeakTheLanguageOfTheCommandOrTheUser)
+{
+    const std::string missing = "/no/such/model.txt";
+    const std::string why =
+        "tamur: " + missing +
+        ": le fichier ne peut pas être ouvert : ce fichier ou un dossier de son "
+        "chemin n'existe pas\n";
+    const TemporaryFile output("mine", ".html");
+    const std::string out = output.Path();
+    const std::string exists = "tamur: " + out + ": cela existe déjà ; --force le remplace\n";
+    const std::string hall = Sample("hall");
+    for (const auto& [arguments, errors] :
+         std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"info", missing}, why},
+             {{"dump", missing}, why},
+             {{"view", missing, "-o", out}, why},
+             {{"check", "-q", missing}, why},
+             {{"diff", missing, hall}, why},
+             {{"export", missing, "--to", "glb", "-o", out}, why},
+             {{"view", hall, "-o", out}, exists},
+             {{"export", hall, "--to", "glb", "-o", out}, exists},
+             {{"export", hall, "--to", "glb", "--case", "77", "--force", "-o", out},
+              "tamur: il n'y a pas de cas 77\n"}}) {
+        EXPECT_EQ(RunTool(arguments, "LC_ALL=fr_FR.UTF-8").errors, errors) << arguments[0];
+        if (arguments[0] == "dump" || arguments[0] == "view") continue;
+        std::vector<std::string> told = arguments;
+        told.insert(told.end(), {"--lang", "fr"});
+        EXPECT_EQ(RunTool(told, "LC_ALL=C").errors, errors) << arguments[0];
+    }
+    EXPECT_THAT(RunTool({"check", "--lang", "fr", missing}).output,
+                HasSubstr(" : ce fichier ou un dossier de son chemin n'existe pas [TMR001]\n"));
+}
+
 TEST(CommandLine, FolderIsRefused)
 {
     ExpectRefused(RunTool({"info", "/tmp"}), "/tmp",

@@ -211,8 +211,18 @@ TEST(Info, TroubleWithOneFileLosesNothingOfTheOthers)
                 AllOf(HasSubstr("version 9.9 is too old"), HasSubstr("/no/such/file")));
     const ToolRun run = RunTool({"info", "--json", old.Path(), Sample("portique")});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(json::parse(run.output)["files"].size(), 1u);
-    EXPECT_EQ(RunTool({"info", "--json", old.Path()}).output, "");
+    const json files = json::parse(run.output)["files"];
+    ASSERT_EQ(files.size(), 2u);
+    EXPECT_EQ(files[0], (json{{"file", old.Path().string()},
+                              {"imported", false},
+                              {"code", "TMR004"},
+                              {"reason", "version 9.9 is too old: 10.1 or later is needed"}}));
+    EXPECT_EQ(files[1]["imported"], true);
+    const ToolRun alone = RunTool({"info", "--format", "json", old.Path()});
+    EXPECT_EQ(json::parse(alone.output)["files"], json::array({files[0]}));
+    EXPECT_EQ(alone.exitCode, 1);
+    EXPECT_EQ(RunTool({"info", "--format", "text", Sample("hall")}).output,
+              RunTool({"info", Sample("hall")}).output);
 }
 
 }  // namespace

@@ -65,7 +65,7 @@ int CheckOne(const CheckOptions& options, const Input& input, const Console& con
     // Why nothing was checked is said whatever was asked for.
     const auto& refusal = checked.imported.refusal;
     if (refusal && (options.isQuiet || findings.CountOf(refusal->code) == 0))
-        throw ImportRefused(input, *refusal);
+        throw ImportRefused(input, *refusal, LanguageOf(options.language));
     if (!options.isQuiet)
         report.Add({.file = input.Name(),
                     .findings = findings,

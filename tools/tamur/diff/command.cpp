@@ -27,7 +27,9 @@ struct DiffOptions {
 
 Imported ImportWhole(const DiffOptions& options, const Input& input)
 {
-    return NeedingTheModel(input.Name(), [&] { return Import(options.component, input); });
+    return NeedingTheModel(input.Name(), [&] {
+        return Import(options.component, input, LanguageOf(options.language));
+    });
 }
 
 int Diff(const DiffOptions& options, const Console& console)

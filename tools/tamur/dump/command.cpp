@@ -23,7 +23,7 @@ int DumpFile(const DumpOptions& options, const Console& console)
 {
     const Members wanted(options.members);
     const Input input(options.file, console.in);
-    const Imported imported = Import(options.component, input);
+    const Imported imported = Import(options.component, input, host::LanguageOfLocale());
     WriteDump({.file = input.Name(),
                .version = imported.version,
                .servicePack = imported.servicePack,

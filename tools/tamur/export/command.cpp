@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "../exit_code.h"
+#include "../failure.h"
 #include "../import.h"
 #include "../input.h"
 #include "../options.h"
@@ -57,6 +58,7 @@ const host::Target& TargetOf(const ExportArguments& options)
 
 int Export(const ExportArguments& options, const Console& console)
 {
+    const host::Language language = LanguageOf(options.language);
     const host::Target& target = TargetOf(options);
     const Input input(options.file, console.in);
     host::Findings findings(kFindingsOfEach);
@@ -66,11 +68,7 @@ int Export(const ExportArguments& options, const Console& console)
                                 "tamur: reading " + input.Name());
         file = host::ImportFile(input.Path(), findings);
     }
-    if (file.refusal) throw ImportRefused(input, *file.refusal);
-    if (file.readError) {
-        throw std::runtime_error(input.Name() + ": " +
-                                 TextOf(*file.readError, host::Language::kEnglish));
-    }
+    RequireModel(file, input, language);
 
     const host::ExportOptions what{.output = options.output.empty()
                                                  ? host::DefaultOutput(input.Name(), target)
@@ -83,11 +81,12 @@ int Export(const ExportArguments& options, const Console& console)
         const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                                 "tamur: writing " + host::Utf8Of(what.output),
                                 [&report] { return report.steps.Percent(); });
-        host::ExportModel(input.Name(), file, findings, target, what, report);
+        SpeakingIn(language,
+                   [&] { host::ExportModel(input.Name(), file, findings, target, what, report); });
     }
     if (options.isQuiet) return exit_code::kFine;
     console.out << host::PlainText(host::Utf8Of(what.output)) << '\n';
-    WriteSummary(report.losses, LanguageOf(options.language), console.out);
+    WriteSummary(report.losses, language, console.out);
     return exit_code::kFine;
 }
 
