@@ -83,6 +83,12 @@ TEST(CommandLine, RefusalsSpeakTheLanguageOfTheCommandOrTheUser)
                 HasSubstr(" : ce fichier ou un dossier de son chemin n'existe pas [TMR001]\n"));
 }
 
+TEST(CommandLine, EmptyNameIsShown)
+{
+    ExpectRefused(RunTool({"info", ""}), "\"\"",
+                  "the file cannot be opened: No such file or directory");
+}
+
 TEST(CommandLine, FolderIsRefused)
 {
     ExpectRefused(RunTool({"info", "/tmp"}), "/tmp",

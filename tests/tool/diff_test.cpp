@@ -207,6 +207,21 @@ TEST(Diff, JsonHasExactValuesAndKeys)
                                                    "Groupes": {"changed": 1}})"));
 }
 
+// The words of `tamur check`.
+TEST(Diff, EndsOfBarsAreToldAsTheCheckTellsThem)
+{
+    const auto model = [](const std::string& sections) {
+        return ModelText()
+            .Section("#Geometries",
+                     {"A 1 2 3 4 5 6 7 8 9 10 11 0 C 1", "B 1 2 3 4 5 6 7 8 9 10 11 0 C 1"})
+            .Elements({"2 1 0 2 0 0 0 0 1 0 0 0 0 0 1 2 0 0 1 1 " + sections + " 1 1 5"});
+    };
+    const ModelText before = model("1 2"), after = model("2 1");
+    EXPECT_THAT(Diff(before, after, {"--lang", "fr"}).output,
+                HasSubstr("~ filaire 1 : section à l'origine \"A\" -> \"B\", section à l'extrémité "
+                          "\"B\" -> \"A\"\n"));
+}
+
 // As `tamur info` says them, and not as the contract or the file counts them.
 TEST(Diff, SettingsAreToldInWords)
 {
