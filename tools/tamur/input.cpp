@@ -52,7 +52,10 @@ void Copy(std::istream& in, std::ostream& out)
 }  // namespace
 
 Input::Input(const std::string& name, std::istream& standardInput)
-    : name_(name == "-" ? "stdin" : name), path_(name)
+    : name_(name == "-"    ? "stdin"
+            : name.empty() ? "\"\""
+                           : name),
+      path_(name)
 {
     if (name == "-") {
         Spool(standardInput);
