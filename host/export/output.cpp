@@ -1,6 +1,7 @@
 #include "host/export/output.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <random>
 
 namespace tamur::host {
@@ -17,9 +18,13 @@ fs::path NameBeside(const fs::path& target)
     return target.parent_path() / PathOf(name + Utf8Of(target.extension()));
 }
 
-[[noreturn]] void Fail(const fs::path& path, const std::string& why)
+[[noreturn]] void Fail(const fs::path& path, const std::string& english, const std::string& french)
 {
-    throw OutputError(Utf8Of(path) + ": " + why);
+    throw OutputError(Utf8Of(path) + ": " + english, Utf8Of(path) + ": " + french);
+}
+[[noreturn]] void Fail(const fs::path& path, const std::error_code& error)
+{
+    Fail(path, error.message(), error.message());
 }
 
 // A link is kept, and what it leads to replaced.
@@ -28,7 +33,7 @@ fs::path WithoutLinks(const fs::path& target)
     std::error_code error;
     if (!fs::is_symlink(fs::symlink_status(target, error))) return target;
     const fs::path real = fs::canonical(target, error);
-    if (error) Fail(target, "a link that leads nowhere");
+    if (error) Fail(target, "a link that leads nowhere", "un lien qui ne mène nulle part");
     return real;
 }
 
@@ -49,7 +54,7 @@ void Rename(const fs::path& from, const fs::path& to)
 {
     std::error_code error;
     fs::rename(from, to, error);
-    if (error) Fail(to, error.message());
+    if (error) Fail(to, error);
 }
 
 }  // namespace
@@ -63,6 +68,17 @@ std::string Utf8Of(const fs::path& path)
 {
     const std::u8string text = path.u8string();
     return std::string(text.begin(), text.end());
+}
+
+void FailToWrite(const std::string& why)
+{
+    throw OutputError("the output cannot be written: " + why,
+                      "la sortie ne peut pas être écrite : " + why);
+}
+
+void FailToWrite()
+{
+    FailToWrite(std::generic_category().message(errno));
 }
 
 Output::~Output()
@@ -80,25 +96,34 @@ void Output::CheckPlace(const Part& part) const
     if (!fs::exists(there)) {
         const fs::path folder = part.target.parent_path();
         if (!folder.empty() && !fs::is_directory(folder, error)) {
-            Fail(part.target, "there is no folder " + Utf8Of(folder));
+            Fail(part.target, "there is no folder " + Utf8Of(folder),
+                 "il n'y a pas de dossier " + Utf8Of(folder));
         }
         return;
     }
     if (part.fileEnding.empty() ? !fs::is_regular_file(there) : !fs::is_directory(there)) {
-        Fail(part.target,
-             part.fileEnding.empty() ? "it is there and no file" : "it is there and no folder");
+        if (part.fileEnding.empty()) {
+            Fail(part.target, "it is there and no file", "cela existe et n'est pas un fichier");
+        }
+        Fail(part.target, "it is there and no folder", "cela existe et n'est pas un dossier");
     }
-    if (!mayReplace_) Fail(part.target, "it is there already; --force replaces it");
+    if (!mayReplace_) {
+        Fail(part.target, "it is there already; --force replaces it",
+             "cela existe déjà ; --force le remplace");
+    }
     if (!part.fileEnding.empty() && !HoldsOnly(part.target, part.fileEnding)) {
-        Fail(part.target, "the folder holds something else than " + part.fileEnding +
-                              " files: it is not replaced");
+        Fail(part.target,
+             "the folder holds something else than " + part.fileEnding +
+                 " files: it is not replaced",
+             "le dossier contient autre chose que des fichiers " + part.fileEnding +
+                 " : il n'est pas remplacé");
     }
 }
 
 fs::path Output::Add(const fs::path& target, std::string_view fileEnding)
 {
     if (target.filename().empty() || target.filename() == "." || target.filename() == "..") {
-        Fail(target, "this is no name for an output");
+        Fail(target, "this is no name for an output", "ce n'est pas un nom pour une sortie");
     }
     Part part{WithoutLinks(target), {}, std::string(fileEnding)};
     CheckPlace(part);
@@ -117,7 +142,7 @@ fs::path Output::AddFolder(const fs::path& target, std::string_view fileEnding)
     const fs::path folder = Add(target, fileEnding);
     std::error_code error;
     fs::create_directory(folder, error);
-    if (error) Fail(target, error.message());
+    if (error) Fail(target, error);
     return folder;
 }
 
@@ -134,7 +159,7 @@ void Output::MoveIntoPlace(const Part& part)
     fs::rename(part.temporary, part.target, error);
     if (error) {
         fs::rename(before, part.target, ignored);
-        Fail(part.target, error.message());
+        Fail(part.target, error);
     }
     fs::remove_all(before, ignored);
 }

@@ -2,18 +2,22 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/told_error.h"
+
 namespace tamur::host {
 
 // What is to be written cannot be.
-class OutputError : public std::runtime_error {
+class OutputError : public ToldError {
  public:
-    using std::runtime_error::runtime_error;
+    using ToldError::ToldError;
 };
+// Throws that the output cannot be written: for that reason, or that of the system.
+[[noreturn]] void FailToWrite(const std::string& why);
+[[noreturn]] void FailToWrite();
 
 // A name given by people, and one for people; both UTF-8.
 [[nodiscard]] std::filesystem::path PathOf(const std::string& utf8);

@@ -70,9 +70,13 @@ class Groups {
             }
         }
         if (!isThere) {
-            throw NotInModel("there is no group " + name +
-                             "; a group is named by its title, or as bars:3, surfaces:3, "
-                             "point-supports:3, line-supports:3, surface-supports:3");
+            throw NotInModel(
+                "there is no group " + name +
+                    "; a group is named by its title, or as bars:3, surfaces:3, "
+                    "point-supports:3, line-supports:3, surface-supports:3",
+                "il n'y a pas de groupe " + name +
+                    " ; un groupe se donne par son titre, ou comme bars:3, surfaces:3, "
+                    "point-supports:3, line-supports:3, surface-supports:3");
         }
     }
 
@@ -197,7 +201,8 @@ void Selection::TakeCases(const Structure& structure, const LoadCases& cases,
 {
     for (const int number : numbers) {
         if (!cases.byNumber.contains(number)) {
-            throw NotInModel("there is no load case " + std::to_string(number));
+            const std::string text = std::to_string(number);
+            throw NotInModel("there is no load case " + text, "il n'y a pas de cas " + text);
         }
     }
     const std::set<int> taken = WithParts(cases, numbers);

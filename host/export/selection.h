@@ -3,20 +3,20 @@
 
 #include <array>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "host/kinds.h"
 #include "host/structure/load_cases.h"
 #include "host/structure/structure.h"
+#include "host/told_error.h"
 
 namespace tamur::host {
 
 // What was asked for is not in the model.
-class NotInModel : public std::runtime_error {
+class NotInModel : public ToldError {
  public:
-    using std::runtime_error::runtime_error;
+    using ToldError::ToldError;
 };
 
 struct Wanted {

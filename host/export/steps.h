@@ -3,13 +3,14 @@
 
 #include <atomic>
 #include <cstddef>
-#include <stdexcept>
+
+#include "host/told_error.h"
 
 namespace tamur::host {
 
-class ExportStopped : public std::runtime_error {
+class ExportStopped : public ToldError {
  public:
-    ExportStopped() : std::runtime_error("stopped: nothing was written") {}
+    ExportStopped() : ToldError("stopped: nothing was written", "arrêté : rien n'a été écrit") {}
 };
 
 class Steps {

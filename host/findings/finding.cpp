@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <system_error>
+#include <utility>
 
 #include "host/findings/plain_text.h"
 
@@ -42,6 +44,26 @@ std::string Fill(std::string_view text, const std::vector<std::string>& values,
     return filled;
 }
 
+// Values are what the system says in English; the common ones in that language.
+std::vector<std::string> ValuesIn(const Finding& finding, Language language)
+{
+    std::vector<std::string> values = finding.values;
+    const bool isOfSystem = finding.code == Code::kCannotOpen || finding.code == Code::kReadError;
+    if (!isOfSystem || language != Language::kFrench) return values;
+    static constexpr std::pair<std::errc, std::string_view> kFrench[] = {
+        {std::errc::no_such_file_or_directory,
+         "ce fichier ou un dossier de son chemin n'existe pas"},
+        {std::errc::permission_denied, "accès refusé"},
+        {std::errc::is_a_directory, "c'est un dossier"},
+        {std::errc::io_error, "erreur d'entrée-sortie"},
+    };
+    for (const auto& [error, french] : kFrench) {
+        const std::string english = std::make_error_code(error).message();
+        std::replace(values.begin(), values.end(), english, std::string(french));
+    }
+    return values;
+}
+
 }  // namespace
 
 const std::vector<CodeInfo>& AllCodes()
@@ -74,8 +96,8 @@ std::string TextOf(const Finding& finding, Language language)
         }
         text += language == Language::kFrench ? " : " : ": ";
     }
-    return text + Fill(InfoOf(finding.code).texts[static_cast<int>(language)], finding.values,
-                       finding.column.In(language));
+    return text + Fill(InfoOf(finding.code).texts[static_cast<int>(language)],
+                       ValuesIn(finding, language), finding.column.In(language));
 }
 
 std::string_view NameOf(Severity severity, Language language)

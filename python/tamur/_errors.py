@@ -15,4 +15,4 @@ class ImportRefused(Exception):
         self.cause = cause
 
     def __str__(self) -> str:
-        return f"{self.source}: {self.cause} [{self.code}]"
+        return f"{self.source or repr('')}: {self.cause} [{self.code}]"

@@ -85,7 +85,7 @@ class Table:
                 if len(places):
                     return Row(self, int(places[0]))
                 break
-        raise KeyError(key)
+        raise KeyError(f"{self.layout.name}: there is no row with the {name} {key!r}")
 
     def to_frame(self) -> pandas.DataFrame:
         """As a data frame: points in three columns, lists as objects."""
@@ -179,6 +179,9 @@ class CombinationTable(Table):
     """By their numbers: `combinations[101]` is `{1: 1.35, 2: 1.5}`."""
 
     def _row(self, place: int) -> dict[int, float]:
+        if place not in self:
+            raise KeyError(f"there is no combination {place}: "
+                           f"m.combinations['load_case'] has their numbers")
         row = self.find(place)
         return dict(zip(row["cases"].tolist(), row["factors"].tolist()))
 

@@ -97,6 +97,8 @@ def test_a_refused_file_says_why(tmp_path):
     assert isinstance(pickle.loads(pickle.dumps(old.value)), tamur.ImportRefused)
     with pytest.raises(tamur.ImportRefused):
         tamur.read(tmp_path)
+    with pytest.raises(tamur.ImportRefused, match="^'': the file cannot be opened"):
+        tamur.read("")
     with pytest.raises(ValueError):
         tamur.read("a\0b")
 
@@ -171,8 +173,12 @@ def test_cases_and_loads(hall):
     assert len(model.loads()) == sum(len(table) for table in model.loads())
     assert model.combinations[101] == {1: 1.35, 2: 1.5} == model.combinations.as_dict()[101]
     assert 101 in model.combinations and 999 not in model.combinations
-    with pytest.raises(KeyError):
-        model.combinations[999]
+    with pytest.raises(KeyError, match="there is no combination 1: m.combinations"):
+        model.combinations[1]
+    with pytest.raises(KeyError, match="groups: there is no row with the title 'Cable'"):
+        model.groups.find("Cable")
+    with pytest.raises(KeyError, match="groups: there is no row with the number 60"):
+        model.groups.find(60)
     assert model.groups.find("Câbles").number == 6
 
 

@@ -13,6 +13,8 @@ TEST(Refusals, AFileThatCannotBeRead)
     ASSERT_TRUE(file.imported.refusal);
     EXPECT_THAT(host::TextOf(*file.imported.refusal, host::Language::kEnglish),
                 testing::HasSubstr("Input/output error"));
+    EXPECT_THAT(host::TextOf(*file.imported.refusal, host::Language::kFrench),
+                testing::HasSubstr("(erreur d'entrée-sortie)"));
 }
 
 }  // namespace

@@ -52,6 +52,14 @@ std::ptrdiff_t LinesOf(const std::string& text)
     return std::count(text.begin(), text.end(), '\n');
 }
 
+// Whatever the gender of the column is.
+TEST(Check, FrenchTextsAgreeWithTheirColumns)
+{
+    const std::string fixture = TAMUR_FIXTURES "/TMR207-tolerance.txt";
+    EXPECT_THAT(RunTool({"check", "--lang", "fr", fixture}).output,
+                HasSubstr(" erreur : tolérance : lu comme 0 ; « 0,001 » a une virgule "));
+}
+
 TEST(Check, SaysWhenThereIsNothing)
 {
     const ToolRun run = CheckText(Cantilever());

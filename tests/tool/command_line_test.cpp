@@ -2,6 +2,8 @@
 
 #include <sys/wait.h>
 
+#include <array>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
@@ -32,11 +34,58 @@ void ExpectUsageError(const ToolRun& run, const std::string& part)
     EXPECT_EQ(run.errors.find('\n'), run.errors.size() - 1) << run.errors;
 }
 
+// For a regular expression.
+std::string Escaped(const std::string& text)
+{
+    std::string escaped;
+    for (const char c : text) escaped += std::string(std::ispunct(c) ? "\\" : "") + c;
+    return escaped;
+}
+
 TEST(CommandLine, MissingFileIsRefusedWithOneLine)
 {
     ExpectRefused(RunTool({"info", "/no/such/model.txt"}), "/no/such/model.txt",
                   "the file cannot be opened: No such file or directory");
     ExpectRefused(RunTool({"dump", "/no/such/model.txt"}), "/no/such/model.txt",
+                  "the file cannot be opened: No such file or directory");
+}
+
+TEST(CommandLine, RefusalsSpeakTheLanguageOfTheCommandOrTheUser)
+{
+    const std::string missing = "/no/such/model.txt";
+    const std::string why =
+        "tamur: " + missing +
+        ": le fichier ne peut pas être ouvert : ce fichier ou un dossier de son "
+        "chemin n'existe pas\n";
+    const TemporaryFile output("mine", ".html");
+    const std::string out = output.Path();
+    const std::string exists = "tamur: " + out + ": cela existe déjà ; --force le remplace\n";
+    const std::string hall = Sample("hall");
+    for (const auto& [arguments, errors] :
+         std::vector<std::pair<std::vector<std::string>, std::string>>{
+             {{"info", missing}, why},
+             {{"dump", missing}, why},
+             {{"view", missing, "-o", out}, why},
+             {{"check", "-q", missing}, why},
+             {{"diff", missing, hall}, why},
+             {{"export", missing, "--to", "glb", "-o", out}, why},
+             {{"view", hall, "-o", out}, exists},
+             {{"export", hall, "--to", "glb", "-o", out}, exists},
+             {{"export", hall, "--to", "glb", "--case", "77", "--force", "-o", out},
+              "tamur: il n'y a pas de cas 77\n"}}) {
+        EXPECT_EQ(RunTool(arguments, "LC_ALL=fr_FR.UTF-8").errors, errors) << arguments[0];
+        if (arguments[0] == "dump" || arguments[0] == "view") continue;
+        std::vector<std::string> told = arguments;
+        told.insert(told.end(), {"--lang", "fr"});
+        EXPECT_EQ(RunTool(told, "LC_ALL=C").errors, errors) << arguments[0];
+    }
+    EXPECT_THAT(RunTool({"check", "--lang", "fr", missing}).output,
+                HasSubstr(" : ce fichier ou un dossier de son chemin n'existe pas [TMR001]\n"));
+}
+
+TEST(CommandLine, EmptyNameIsShown)
+{
+    ExpectRefused(RunTool({"info", ""}), "\"\"",
                   "the file cannot be opened: No such file or directory");
 }
 
@@ -82,6 +131,41 @@ TEST(CommandLine, WordThatIsNoCommandIsNamed)
     ExpectUsageError(RunTool({"exprot", "a.txt"}), "exprot is no subcommand");
 }
 
+TEST(CommandLine, UsageErrorsNameTheHelpOfTheCommand)
+{
+    const std::string file = Sample("hall");
+    ExpectUsageError(RunTool({"info", "--color", "never", file}),
+                     "tamur: --color: there is no such option (see tamur info --help)\n");
+    ExpectUsageError(RunTool({"check", "--foo", "--bar", file}),
+                     ": --foo: there is no such option");
+    ExpectUsageError(RunTool({"check", "--foo=1", file}), ": --foo=1: there is no such option");
+    ExpectUsageError(RunTool({"dump", "--foo"}), "--foo: there is no such option (see tamur dump ");
+    ExpectUsageError(RunTool({"--foo"}),
+                     "tamur: --foo: there is no such option (see tamur --help)");
+    ExpectUsageError(RunTool({"dump", file, "b", "c"}), "tamur: b: one argument too many (see ");
+    ExpectUsageError(RunTool({"check", "--lang", "de", file}), "(see tamur check --help)\n");
+}
+
+TEST(CommandLine, OutputIsAFileOfItsOwn)
+{
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{"export", Sample("hall"), "--to", "csv", "-o", "-"},
+                                               {"view", "-o-", Sample("hall")}}) {
+        ExpectUsageError(RunTool(arguments),
+                         "--output: it is not written to standard output: name a file");
+        EXPECT_FALSE(std::filesystem::exists("-"));
+    }
+}
+
+TEST(CommandLine, StandardInputCanBeGivenOnce)
+{
+    const std::string input = "cat '" + Sample("hall") + "' |";
+    for (const auto& arguments : std::vector<std::vector<std::string>>{
+             {"diff", "-", "-"}, {"info", "-", Sample("hall"), "-"}, {"check", "-", "-"}}) {
+        ExpectUsageError(RunTool(arguments, input), "tamur: - can be given once: ");
+    }
+}
+
 TEST(CommandLine, ComponentThatCannotBeLoadedIsNamed)
 {
     ExpectUsageError(RunTool({"--component", "/no/such/component.so", "info", Sample("hall")}),
@@ -123,6 +207,29 @@ TEST(CommandLine, HelpHasExamplesAndExitCodes)
                     AllOf(HasSubstr("Examples:\n"), HasSubstr("\n  tamur " + command + " "),
                           HasSubstr("Exit codes: 0 ")));
     }
+}
+
+// "A ..." would say that what follows is another value, which is taken for a file.
+TEST(CommandLine, HelpSaysHowSeveralValuesAreGiven)
+{
+    for (const auto& [command, option, entry] :
+         std::vector<std::array<std::string, 3>>{{"check", "--select", "CODE[,CODE...]"},
+                                                 {"check", "--ignore", "CODE[,CODE...]"},
+                                                 {"dump", "--select", "TABLE[,TABLE...]"},
+                                                 {"export", "--case", "N"},
+                                                 {"export", "--group", "GROUP"}}) {
+        EXPECT_THAT(RunTool({command, "--help"}).output,
+                    testing::ContainsRegex("\n  " + option + " " + Escaped(entry) +
+                                           " [^\n]*(\n      [^\n]*)*; may be repeated\n"));
+    }
+    const std::string three = Sample("erreurs");
+    const auto codes = [&](const std::vector<std::string>& options) {
+        std::vector<std::string> arguments = {"check", "--all", three};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return RunTool(arguments).output;
+    };
+    EXPECT_EQ(codes({"--select", "TMR1,TMR2"}), codes({"--select", "TMR1", "--select", "TMR2"}));
+    EXPECT_NE(codes({"--select", "TMR1,TMR2"}), codes({"--select", "TMR1"}));
 }
 
 // In a folder with the files that they speak of; what opens a browser or reads a pipe of another

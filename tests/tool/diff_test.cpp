@@ -207,5 +207,38 @@ TEST(Diff, JsonHasExactValuesAndKeys)
                                                    "Groupes": {"changed": 1}})"));
 }
 
+// The words of `tamur check`.
+TEST(Diff, EndsOfBarsAreToldAsTheCheckTellsThem)
+{
+    const auto model = [](const std::string& sections) {
+        return ModelText()
+            .Section("#Geometries",
+                     {"A 1 2 3 4 5 6 7 8 9 10 11 0 C 1", "B 1 2 3 4 5 6 7 8 9 10 11 0 C 1"})
+            .Elements({"2 1 0 2 0 0 0 0 1 0 0 0 0 0 1 2 0 0 1 1 " + sections + " 1 1 5"});
+    };
+    const ModelText before = model("1 2"), after = model("2 1");
+    EXPECT_THAT(Diff(before, after, {"--lang", "fr"}).output,
+                HasSubstr("~ filaire 1 : section à l'origine \"A\" -> \"B\", section à l'extrémité "
+                          "\"B\" -> \"A\"\n"));
+}
+
+// As `tamur info` says them, and not as the contract or the file counts them.
+TEST(Diff, SettingsAreToldInWords)
+{
+    EXPECT_THAT(RunTool({"diff", "--lang", "en", Sample("hall"), Sample("portique")}).output,
+                HasSubstr("~ settings: working space space frame -> plane frame\n"));
+    EXPECT_THAT(RunTool({"diff", "--lang", "fr", Sample("hall"), Sample("portique")}).output,
+                HasSubstr("~ réglages : espace de travail spatial -> plan\n"));
+    const auto group = [](const std::string& line) {
+        return ModelText().Section("#Groupes", {line});
+    };
+    EXPECT_THAT(Diff(group("2 3 1 A Oui"), group("2 3 2 A Non")).output,
+                AllOf(HasSubstr("~ group 3 (bar): number of the type 1 -> 2, type \""),
+                      HasSubstr("\", displayed yes -> no\n")));
+    EXPECT_THAT(Diff(group("2 3 1 A Oui"), group("2 3 2 A Non"), {"--lang", "fr"}).output,
+                AllOf(HasSubstr(" : numéro du type 1 -> 2, type \""),
+                      HasSubstr("\", affiché oui -> non\n")));
+}
+
 }  // namespace
 }  // namespace tamur::test

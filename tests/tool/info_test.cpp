@@ -100,7 +100,8 @@ TEST(Info, ShowsSumsWithUnitsAndWhatTheyRestOn)
           "load case 2 Neige (projected): Fz -248927.7",
           "assumed: local and projected loads are added whole, each kind apart, in their own "
           "frames.",
-          "masses, as written: Mx 450 My 450 Mz 450 Ix 80 Iy 80 Iz 120",
+          "masses (unit as in the file)", "mass along x 450 mass along y 450 mass along z 450",
+          "inertia about x 80 inertia about y 80 inertia about z 120",
           "length of bars from end to end (m), by section", "IPE160: 90",
           "area of surfaces (m²), by thickness (m)", "0.2: 540",
           "assumed: openings do not overlap, and take their whole area away."}) {
@@ -192,7 +193,7 @@ TEST(Info, SpeaksFrench)
          {"espace de travail           spatial\n", "tolérance                   0.005 m\n",
           "matériaux                   3\n", "appuis ponctuels            8\n", "nœuds  ",
           "constats                    4 notes (voir tamur check)\n", "charges par cas (N, N·m)\n",
-          "  cas 4 Neige (projeté):  Fz -62400\n", "supposé : "}) {
+          "  cas 4 Neige (projeté) :  Fz -62400\n", "supposé : "}) {
         EXPECT_THAT(french, HasSubstr(expected));
     }
     EXPECT_EQ(RunTool({"info", Sample("hall")}, "LC_ALL=fr_FR.UTF-8").output,
@@ -210,8 +211,18 @@ TEST(Info, TroubleWithOneFileLosesNothingOfTheOthers)
                 AllOf(HasSubstr("version 9.9 is too old"), HasSubstr("/no/such/file")));
     const ToolRun run = RunTool({"info", "--json", old.Path(), Sample("portique")});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(json::parse(run.output)["files"].size(), 1u);
-    EXPECT_EQ(RunTool({"info", "--json", old.Path()}).output, "");
+    const json files = json::parse(run.output)["files"];
+    ASSERT_EQ(files.size(), 2u);
+    EXPECT_EQ(files[0], (json{{"file", old.Path().string()},
+                              {"imported", false},
+                              {"code", "TMR004"},
+                              {"reason", "version 9.9 is too old: 10.1 or later is needed"}}));
+    EXPECT_EQ(files[1]["imported"], true);
+    const ToolRun alone = RunTool({"info", "--format", "json", old.Path()});
+    EXPECT_EQ(json::parse(alone.output)["files"], json::array({files[0]}));
+    EXPECT_EQ(alone.exitCode, 1);
+    EXPECT_EQ(RunTool({"info", "--format", "text", Sample("hall")}).output,
+              RunTool({"info", Sample("hall")}).output);
 }
 
 }  // namespace

@@ -5,12 +5,14 @@
 #include <new>
 
 #include "failure.h"
+#include "input.h"
 
 namespace tamur::tool {
 
 int ForEachFile(const std::vector<std::string>& files, const Console& console,
                 const std::function<int(const std::string& file)>& doWith)
 {
+    RequireOneStandardInput(files);
     int worst = exit_code::kFine;
     for (const std::string& file : files) {
         try {

@@ -2,7 +2,6 @@
 
 #include <tamur/utf8.h>
 
-#include "host/file/imported_file.h"
 #include "message_boxes.h"
 
 namespace tamur::tool {
@@ -18,25 +17,26 @@ std::unique_ptr<Component> LoadIfGiven(const std::string& path)
         std::filesystem::path(std::u8string(path.begin(), path.end())));
 }
 
-ComPtr<ITAMURStructureReader> ImportThrough(const Component& component, const Input& input)
+ComPtr<ITAMURStructureReader> ImportThrough(const Component& component, const Input& input,
+                                            Language language)
 {
     ComPtr<ITAMURStructureReader> reader = component.CreateReader();
     const String name(FromUtf8(input.Path()).c_str());
     const SilencedMessageBoxes boxes(component);
     if (FAILED(reader->Import(name.Get()))) {
-        throw ImportRefused(input.Name() + ": the component refuses it");
+        constexpr host::Name kRefuses = {{"the component refuses it", "le composant le refuse"}};
+        throw ImportRefused(input, std::string(kRefuses.In(language)));
     }
     return reader;
 }
 
-Imported Serve(std::unique_ptr<Component> component, const Input& input, host::ImportedFile file)
+Imported Serve(std::unique_ptr<Component> component, const Input& input, Language language,
+               host::ImportedFile file)
 {
-    if (file.refusal) throw ImportRefused(input, *file.refusal);
-    if (file.readError) {
-        throw std::runtime_error(input.Name() + ": " + TextOf(*file.readError, Language::kEnglish));
-    }
+    RequireModel(file, input, language);
     Imported imported;
-    imported.reader = component ? ImportThrough(*component, input) : std::move(file.reader);
+    imported.reader =
+        component ? ImportThrough(*component, input, language) : std::move(file.reader);
     imported.component = std::move(component);
     imported.version = std::move(file.version);
     imported.servicePack = file.servicePack;
@@ -46,21 +46,34 @@ Imported Serve(std::unique_ptr<Component> component, const Input& input, host::I
 
 }  // namespace
 
-ImportRefused::ImportRefused(const Input& input, const host::Finding& why)
-    : std::runtime_error(input.Name() + ": " + TextOf(why, Language::kEnglish))
+NoModel::NoModel(const Input& input, const std::string& why)
+    : std::runtime_error(input.Name() + ": " + why), why_(why)
 {
 }
 
-Imported Import(const std::string& componentPath, const Input& input, host::Findings& findings)
+NoModel::NoModel(const Input& input, const host::Finding& why, Language language)
+    : NoModel(input, TextOf(why, language))
 {
-    auto component = LoadIfGiven(componentPath);
-    return Serve(std::move(component), input, host::ImportFile(input.Path(), findings));
+    code_ = IdOf(why.code);
 }
 
-Imported Import(const std::string& componentPath, const Input& input)
+void RequireModel(const host::ImportedFile& file, const Input& input, Language language)
+{
+    if (file.refusal) throw ImportRefused(input, *file.refusal, language);
+    if (file.readError) throw NotReadToItsEnd(input, *file.readError, language);
+}
+
+Imported Import(const std::string& componentPath, const Input& input, Language language,
+                host::Findings& findings)
 {
     auto component = LoadIfGiven(componentPath);
-    return Serve(std::move(component), input, host::ImportFile(input.Path()));
+    return Serve(std::move(component), input, language, host::ImportFile(input.Path(), findings));
+}
+
+Imported Import(const std::string& componentPath, const Input& input, Language language)
+{
+    auto component = LoadIfGiven(componentPath);
+    return Serve(std::move(component), input, language, host::ImportFile(input.Path()));
 }
 
 }  // namespace tamur::tool

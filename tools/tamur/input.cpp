@@ -1,5 +1,6 @@
 #include "input.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <random>
@@ -51,7 +52,10 @@ void Copy(std::istream& in, std::ostream& out)
 }  // namespace
 
 Input::Input(const std::string& name, std::istream& standardInput)
-    : name_(name == "-" ? "stdin" : name), path_(name)
+    : name_(name == "-"    ? "stdin"
+            : name.empty() ? "\"\""
+                           : name),
+      path_(name)
 {
     if (name == "-") {
         Spool(standardInput);
@@ -78,6 +82,13 @@ void Input::Spool(std::istream& in)
         std::error_code ignored;
         fs::remove(spooled_, ignored);
         throw;
+    }
+}
+
+void RequireOneStandardInput(const std::vector<std::string>& names)
+{
+    if (std::count(names.begin(), names.end(), "-") > 1) {
+        throw std::runtime_error("- can be given once: it is standard input");
     }
 }
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <istream>
 #include <string>
+#include <vector>
 
 namespace tamur::tool {
 
@@ -28,5 +29,8 @@ class Input {
     std::string path_;
     std::filesystem::path spooled_;
 };
+
+// Throws std::runtime_error when standard input is among them twice: the second is at its end.
+void RequireOneStandardInput(const std::vector<std::string>& names);
 
 }  // namespace tamur::tool

@@ -19,6 +19,11 @@ CLI::Validator OneOf(const std::vector<std::string>& words)
     return CLI::Validator(check, "");
 }
 
+std::string NamesAFile(std::string& output)
+{
+    return output == "-" ? "it is not written to standard output: name a file" : std::string();
+}
+
 }  // namespace
 
 void AddFile(CLI::App& command, std::string& file)
@@ -33,6 +38,13 @@ void AddFiles(CLI::App& command, std::vector<std::string>& files)
     command.add_option("FILE", files, "the model files; - is standard input")
         ->required()
         ->type_name("");
+}
+
+void AddOutput(CLI::App& command, std::string& output, const char* description)
+{
+    command.add_option("-o,--output", output, description)
+        ->check(CLI::Validator(NamesAFile, ""))
+        ->type_name("OUT");
 }
 
 void AddChoice(CLI::App& command, const char* name, std::string& choice,

@@ -15,6 +15,8 @@ namespace tamur::tool {
 
 void AddFile(CLI::App& command, std::string& file);
 void AddFiles(CLI::App& command, std::vector<std::string>& files);
+// Where to write; `description` says what is written there without it.
+void AddOutput(CLI::App& command, std::string& output, const char* description);
 // One of those words; what is allowed is said when it is none.
 void AddChoice(CLI::App& command, const char* name, std::string& choice,
                const std::vector<std::string>& words, const char* description);

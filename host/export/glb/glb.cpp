@@ -473,7 +473,8 @@ class GlbScene {
 void WriteWord(std::ostream& out, std::uint64_t value)
 {
     if (value > std::numeric_limits<std::uint32_t>::max()) {
-        throw OutputError("the model is too large for this form: 4 GiB");
+        throw OutputError("the model is too large for this form: 4 GiB",
+                          "le modèle est trop grand pour cette forme : 4 Gio");
     }
     const auto word = static_cast<std::uint32_t>(value);
     out.write(reinterpret_cast<const char*>(&word), sizeof word);
@@ -510,10 +511,7 @@ void WriteGlb(const Source& source, const std::filesystem::path& path, Output& o
     WriteWord(out, size);
     WriteWord(out, kJson);
     out.close();
-    if (!out) {
-        throw OutputError("the output cannot be written: " +
-                          std::generic_category().message(errno));
-    }
+    if (!out) FailToWrite();
 }
 
 }  // namespace tamur::host

@@ -44,9 +44,13 @@ void Book::Add(const Layout& layout, const Row& row)
         sheet = sheets_.emplace(&layout, book_.AddSheet(layout.sheet, layout.headings)).first;
     }
     if (book_.RowCount(sheet->second) == Workbook::kMostRows) {
-        throw OutputError("the sheet " + layout.sheet +
-                          " needs more than the 1,048,576 rows that a workbook has: export a part "
-                          "of the model, with --group or --case");
+        throw OutputError(
+            "the sheet " + layout.sheet +
+                " needs more than the 1,048,576 rows that a workbook has: export a part "
+                "of the model, with --group or --case",
+            "la feuille " + layout.sheet +
+                " demande plus que les 1 048 576 lignes d'un classeur : exporter une "
+                "partie du modèle, avec --group ou --case");
     }
     book_.AddRow(sheet->second, row.Cells());
 }

@@ -103,18 +103,13 @@ class CsvTables : public TableWriter {
     void EndLine()
     {
         line_ += "\r\n";
-        if (!(file_ << line_)) Fail();
+        if (!(file_ << line_)) FailToWrite();
     }
     void Finish()
     {
         if (!file_.is_open()) return;
         file_.close();
-        if (file_.fail()) Fail();
-    }
-    [[noreturn]] static void Fail()
-    {
-        throw OutputError("the output cannot be written: " +
-                          std::generic_category().message(errno));
+        if (file_.fail()) FailToWrite();
     }
 
     std::filesystem::path folder_;

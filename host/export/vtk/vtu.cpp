@@ -53,10 +53,7 @@ void WriteVtm(const Source& source, const std::filesystem::path& path, Output& o
     std::ofstream out(list, std::ios::binary);
     document.save(out, " ", pugi::format_default, pugi::encoding_utf8);
     out.close();
-    if (!out) {
-        throw OutputError("the output cannot be written: " +
-                          std::generic_category().message(errno));
-    }
+    if (!out) FailToWrite();
 }
 
 }  // namespace tamur::host

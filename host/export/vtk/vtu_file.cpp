@@ -48,7 +48,8 @@ class VtuFile {
         }
         constexpr std::size_t kMost = std::numeric_limits<std::int32_t>::max();
         if (points.size() > kMost || corners_ > kMost) {
-            throw OutputError("the model is too large for this form");
+            throw OutputError("the model is too large for this form",
+                              "le modèle est trop grand pour cette forme");
         }
     }
 
@@ -63,10 +64,7 @@ class VtuFile {
         out_.seekp(0);
         out_ << Padded(Description(), longest.size());
         out_.close();
-        if (!out_) {
-            throw OutputError("the output cannot be written: " +
-                              std::generic_category().message(errno));
-        }
+        if (!out_) FailToWrite();
     }
 
  private:

@@ -27,19 +27,10 @@ constexpr LossText kCut = {
     {"texts longer than 32,767 characters, the most that a cell holds, are cut",
      "les textes de plus de 32 767 caractères, le maximum d'une cellule, sont coupés"}};
 
-[[noreturn]] void Fail(const std::string& why)
-{
-    throw OutputError("the output cannot be written: " + why);
-}
-[[noreturn]] void FailBySystem()
-{
-    Fail(std::generic_category().message(errno));
-}
-
 void CheckLibrary(lxw_error error)
 {
     if (error == LXW_ERROR_MEMORY_MALLOC_FAILED) throw std::bad_alloc();
-    if (error != LXW_NO_ERROR) Fail(lxw_strerror(error));
+    if (error != LXW_NO_ERROR) FailToWrite(lxw_strerror(error));
 }
 
 // The largest that spreadsheets know. What is beyond it is a text, and so is what is no number.
@@ -88,7 +79,7 @@ Workbook::~Workbook()
 Workbook::Sheet Workbook::AddSheet(const std::string& name, std::span<const std::string> headings)
 {
     lxw_worksheet* const sheet = workbook_add_worksheet(book_, name.c_str());
-    if (sheet == nullptr) FailBySystem();  // it has no file for its rows
+    if (sheet == nullptr) FailToWrite();  // it has no file for its rows
     for (std::size_t i = 0; i < headings.size(); ++i) {
         const double width = std::min(40.0, static_cast<double>(headings[i].size()) + 3);
         CheckLibrary(worksheet_set_column(sheet, ColumnAt(i), ColumnAt(i), width, nullptr));
@@ -147,7 +138,7 @@ std::vector<std::size_t> Workbook::WrittenSizes() const
     for (const Written& written : sheets_) {
         lxw_worksheet_write_single_row(written.sheet);
         std::FILE* const rows = written.sheet->optimize_tmpfile;
-        if (std::fflush(rows) != 0 || std::ferror(rows) != 0) FailBySystem();
+        if (std::fflush(rows) != 0 || std::ferror(rows) != 0) FailToWrite();
         const long size = std::ftell(rows);
         sizes.push_back(size < 0 ? 0 : static_cast<std::size_t>(size));
     }
@@ -160,17 +151,17 @@ void Workbook::Close()
     const std::vector<std::size_t> sizes = WrittenSizes();
     const lxw_error error = workbook_close(std::exchange(book_, nullptr));
     if (error == LXW_ERROR_CREATING_TMPFILE || error == LXW_ERROR_ZIP_FILE_OPERATION) {
-        FailBySystem();
+        FailToWrite();
     }
     CheckLibrary(error);
     // Nor whether the parts that it packs are whole.
     const auto packed = ZipSizes(path_);
     for (std::size_t i = 0; i < sizes.size(); ++i) {
         const auto sheet = packed.find("xl/worksheets/sheet" + std::to_string(i + 1) + ".xml");
-        if (sheet == packed.end() || sheet->second < sizes[i]) Fail("a sheet is not whole");
+        if (sheet == packed.end() || sheet->second < sizes[i]) FailToWrite("a sheet is not whole");
     }
     const auto isEmpty = [](const auto& part) { return part.second == 0; };
-    if (std::any_of(packed.begin(), packed.end(), isEmpty)) Fail("a part is empty");
+    if (std::any_of(packed.begin(), packed.end(), isEmpty)) FailToWrite("a part is empty");
 }
 
 }  // namespace tamur::host

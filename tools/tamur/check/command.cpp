@@ -65,7 +65,7 @@ int CheckOne(const CheckOptions& options, const Input& input, const Console& con
     // Why nothing was checked is said whatever was asked for.
     const auto& refusal = checked.imported.refusal;
     if (refusal && (options.isQuiet || findings.CountOf(refusal->code) == 0))
-        throw ImportRefused(input, *refusal);
+        throw ImportRefused(input, *refusal, LanguageOf(options.language));
     if (!options.isQuiet)
         report.Add({.file = input.Name(),
                     .findings = findings,
@@ -107,7 +107,7 @@ void AddCodes(CLI::App& command, const char* name, std::vector<std::string>& cod
         ->delimiter(',')
         ->transform(CLI::Validator(NamesCodes, ""))
         ->allow_extra_args(false)
-        ->type_name("CODES");
+        ->type_name("CODE[,CODE...]");
 }
 
 }  // namespace
@@ -130,8 +130,8 @@ void AddCheckCommand(CLI::App& app, Task& task)
     AddChoice(*command, "--format", options->format, {"text", "json", "sarif"},
               "text (default), json or sarif");
     AddCodes(*command, "--select", options->filter.select,
-             "only these codes: TMR101, or TMR1 for all that begin so");
-    AddCodes(*command, "--ignore", options->filter.ignore, "all but these codes");
+             "only these codes: TMR101, or TMR1 for all that begin so; may be repeated");
+    AddCodes(*command, "--ignore", options->filter.ignore, "all but these codes; may be repeated");
     AddLanguage(*command, options->language);
     AddColour(*command, options->colour);
     AddQuiet(*command, options->isQuiet);

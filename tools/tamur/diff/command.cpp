@@ -27,11 +27,14 @@ struct DiffOptions {
 
 Imported ImportWhole(const DiffOptions& options, const Input& input)
 {
-    return NeedingTheModel(input.Name(), [&] { return Import(options.component, input); });
+    return NeedingTheModel(input.Name(), [&] {
+        return Import(options.component, input, LanguageOf(options.language));
+    });
 }
 
 int Diff(const DiffOptions& options, const Console& console)
 {
+    RequireOneStandardInput({options.before, options.after});
     const Input before(options.before, console.in), after(options.after, console.in);
     const Imported from = ImportWhole(options, before), to = ImportWhole(options, after);
     const DiffResult result{.before = {before.Name(), from.version},
@@ -59,8 +62,12 @@ void AddDiffCommand(CLI::App& app, const std::string& component, Task& task)
         "  tamur diff --tolerance 0.001 monday.txt friday.txt\n"
         "  tamur diff --quiet monday.txt friday.txt || echo changed\n"
         "Exit codes: 0 the same; 1 different; 2 wrong usage, or a file was not imported.");
-    diff->add_option("BEFORE", options->before, "the model file before")->required()->type_name("");
-    diff->add_option("AFTER", options->after, "the model file after")->required()->type_name("");
+    diff->add_option("BEFORE", options->before, "the model file before; - is standard input")
+        ->required()
+        ->type_name("");
+    diff->add_option("AFTER", options->after, "the model file after; - is standard input")
+        ->required()
+        ->type_name("");
     AddChoice(*diff, "--format", options->format, {"text", "json"}, "text (default) or json");
     AddLanguage(*diff, options->language);
     AddQuiet(*diff, options->isQuiet);

@@ -214,8 +214,16 @@ class Teller {
     {
         if (change.isTurned) return words_.turned;
         const std::string field = isAtBothEnds ? change.field.substr(kStart.size()) : change.field;
-        return FieldWords(field, language_) + " " + ValueText(change.before) + kArrow +
-               ValueText(change.after);
+        return FieldWords(field, language_) + " " + ValueText(field, change.before) + kArrow +
+               ValueText(field, change.after);
+    }
+
+    [[nodiscard]] std::string ValueText(const std::string& field, const host::Value& value) const
+    {
+        const auto* const number = std::get_if<long long>(&value.is);
+        const std::string_view words =
+            number == nullptr ? std::string_view() : ValueWords(field, *number, language_);
+        return words.empty() ? ValueText(value) : std::string(words);
     }
 
     [[nodiscard]] std::string ValueText(const host::Value& value) const

@@ -1,7 +1,8 @@
 #include "words.h"
 
 #include <algorithm>
-#include <string_view>
+
+#include "../setting_words.h"
 
 namespace tamur::tool {
 namespace {
@@ -56,8 +57,8 @@ constexpr FieldName kFieldNames[] = {
     {"Couche", {"layer", "couche"}},
     {"ElemGrp", {"kind of group", "genre du groupe"}},
     {"ElementType", {"type", "type"}},
-    {"EndConnection", {"release at the end", "attache à la fin"}},
-    {"EndSection", {"section at the end", "section à la fin"}},
+    {"EndConnection", {"release at the end", "attache à l'extrémité"}},
+    {"EndSection", {"section at the end", "section à l'extrémité"}},
     {"ErrorMessage", {"remark", "remarque"}},
     {"Excentration", {"offset", "excentrement"}},
     {"FilaireMaterial", {"material", "matériau"}},
@@ -73,11 +74,13 @@ constexpr FieldName kFieldNames[] = {
     {"Geometrie", {"position", "position"}},
     {"Repere", {"frame", "repère"}},
     {"Section", {"section", "section"}},
-    {"StartConnection", {"release at the start", "attache au début"}},
-    {"StartSection", {"section at the start", "section au début"}},
+    {"StartConnection", {"release at the start", "attache à l'origine"}},
+    {"StartSection", {"section at the start", "section à l'origine"}},
     {"Surface", {"surface", "surface"}},
     {"SurfaciqueMaterial", {"material", "matériau"}},
     {"Thickness", {"thickness", "épaisseur"}},
+    {"TypEl", {"number of the type", "numéro du type"}},
+    {"TypeElementName", {"type", "type"}},
     {"Titre", {"title", "titre"}},
     {"blocage", {"fixity", "blocage"}},
     {"end", {"end", "fin"}},
@@ -141,6 +144,13 @@ std::string FieldWords(const std::string& field, host::Language language)
                  CountedFromOne(part.substr(name.size()));
     }
     return words;
+}
+
+std::string_view ValueWords(std::string_view field, long long number, host::Language language)
+{
+    if (field == "espaceDeTravail") return WorkSpaceWords(number, language);
+    if (field == "rigideEnFlexion" || field == "Affiche") return YesOrNo(number != 0, language);
+    return {};
 }
 
 }  // namespace tamur::tool

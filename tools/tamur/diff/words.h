@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "host/diff/model_diff.h"
 #include "host/language.h"
@@ -34,5 +35,9 @@ struct DiffWords {
 // What an engineer says for a field, by its published name as in host::FieldChange:
 // "ElemLabels.tabLabels[0]" is "label 1". Fields without a word of their own keep their names.
 [[nodiscard]] std::string FieldWords(const std::string& field, host::Language language);
+
+// What one says for a number that is in that field: a working space, yes or no. Empty: the number.
+[[nodiscard]] std::string_view ValueWords(std::string_view field, long long number,
+                                          host::Language language);
 
 }  // namespace tamur::tool

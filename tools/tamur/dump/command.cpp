@@ -23,7 +23,7 @@ int DumpFile(const DumpOptions& options, const Console& console)
 {
     const Members wanted(options.members);
     const Input input(options.file, console.in);
-    const Imported imported = Import(options.component, input);
+    const Imported imported = Import(options.component, input, host::LanguageOfLocale());
     WriteDump({.file = input.Name(),
                .version = imported.version,
                .servicePack = imported.servicePack,
@@ -50,10 +50,10 @@ void AddDumpCommand(CLI::App& app, const std::string& component, Task& task)
     command
         ->add_option("--select", options->members,
                      "only these tables, by their names in the dump or in docs/columns.md: "
-                     "Nodes, bars")
+                     "Nodes, bars; may be repeated")
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->type_name("TABLES");
+        ->type_name("TABLE[,TABLE...]");
     command->add_flag("--pretty", options->isPretty, "one value per line");
     command->callback([&task, &component, options] {
         options->component = component;

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "../exit_code.h"
+#include "../failure.h"
 #include "../import.h"
 #include "../input.h"
 #include "../options.h"
@@ -57,6 +58,7 @@ const host::Target& TargetOf(const ExportArguments& options)
 
 int Export(const ExportArguments& options, const Console& console)
 {
+    const host::Language language = LanguageOf(options.language);
     const host::Target& target = TargetOf(options);
     const Input input(options.file, console.in);
     host::Findings findings(kFindingsOfEach);
@@ -66,11 +68,7 @@ int Export(const ExportArguments& options, const Console& console)
                                 "tamur: reading " + input.Name());
         file = host::ImportFile(input.Path(), findings);
     }
-    if (file.refusal) throw ImportRefused(input, *file.refusal);
-    if (file.readError) {
-        throw std::runtime_error(input.Name() + ": " +
-                                 TextOf(*file.readError, host::Language::kEnglish));
-    }
+    RequireModel(file, input, language);
 
     const host::ExportOptions what{.output = options.output.empty()
                                                  ? host::DefaultOutput(input.Name(), target)
@@ -83,11 +81,12 @@ int Export(const ExportArguments& options, const Console& console)
         const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                                 "tamur: writing " + host::Utf8Of(what.output),
                                 [&report] { return report.steps.Percent(); });
-        host::ExportModel(input.Name(), file, findings, target, what, report);
+        SpeakingIn(language,
+                   [&] { host::ExportModel(input.Name(), file, findings, target, what, report); });
     }
     if (options.isQuiet) return exit_code::kFine;
     console.out << host::PlainText(host::Utf8Of(what.output)) << '\n';
-    WriteSummary(report.losses, LanguageOf(options.language), console.out);
+    WriteSummary(report.losses, language, console.out);
     return exit_code::kFine;
 }
 
@@ -119,20 +118,18 @@ void AddExportCommand(CLI::App& app, Task& task)
     AddFile(*command, options->file);
     command->add_option("--to", options->target, "what to write (default: by the name of OUT)")
         ->type_name("KIND");
-    command
-        ->add_option("-o,--output", options->output,
-                     "where (default: the name of FILE with another ending, in this folder)")
-        ->type_name("OUT");
+    AddOutput(*command, options->output,
+              "where (default: the name of FILE with another ending, in this folder)");
     command
         ->add_option("--case", options->wanted.cases,
                      "only the loads of this case; of a combination or an envelope, those of its "
-                     "cases")
+                     "cases; may be repeated")
         ->allow_extra_args(false)
         ->type_name("N");
     command
         ->add_option("--group", options->wanted.groups,
                      "only this group and what is on it: its title, or bars:3, surfaces:3, "
-                     "point-supports:3, line-supports:3, surface-supports:3")
+                     "point-supports:3, line-supports:3, surface-supports:3; may be repeated")
         ->allow_extra_args(false)
         ->type_name("GROUP");
     command->add_flag("--force", options->mayReplace, "replace what is there");

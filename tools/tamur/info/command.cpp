@@ -18,7 +18,10 @@ struct InfoOptions {
     std::string component;
     std::vector<std::string> files;
     std::string language;
-    bool isJson = false;
+    std::string format = "text";
+    bool hasJson = false;
+
+    [[nodiscard]] bool IsJson() const { return hasJson || format == "json"; }
 };
 
 ModelSummary SummaryOf(const InfoOptions& options, const std::string& file, const Console& console)
@@ -26,31 +29,43 @@ ModelSummary SummaryOf(const InfoOptions& options, const std::string& file, cons
     const Input input(file, console.in);
     const Progress progress(console.errors, console.isErrorsTerminal,
                             "tamur: reading " + input.Name());
-    return Summarize(options.component, input);
+    return Summarize(options.component, input, LanguageOf(options.language));
+}
+
+int InfoAsText(const InfoOptions& options, const Console& console)
+{
+    const host::Language language = LanguageOf(options.language);
+    bool isFirst = true;
+    return ForEachFile(options.files, console, [&](const std::string& file) {
+        const ModelSummary summary = SummaryOf(options, file, console);
+        if (!isFirst) console.out << '\n';
+        isFirst = false;
+        WriteInfo(summary, language, console.out);
+        return exit_code::kFine;
+    });
+}
+
+int InfoAsJson(const InfoOptions& options, const Console& console)
+{
+    nlohmann::ordered_json models = nlohmann::ordered_json::array();
+    const int code = ForEachFile(options.files, console, [&](const std::string& file) {
+        try {
+            models.push_back(JsonOf(SummaryOf(options, file, console)));
+        } catch (...) {
+            models.push_back(JsonOfFailure(file));
+            throw;
+        }
+        return exit_code::kFine;
+    });
+    const nlohmann::ordered_json document = {
+        {"tool", {{"name", "tamur"}, {"version", TAMUR_VERSION}}}, {"files", models}};
+    console.out << JsonText(document, 2) << '\n';
+    return code;
 }
 
 int Info(const InfoOptions& options, const Console& console)
 {
-    const host::Language language = LanguageOf(options.language);
-    nlohmann::ordered_json models = nlohmann::ordered_json::array();
-    bool isFirst = true;
-    const int code = ForEachFile(options.files, console, [&](const std::string& file) {
-        const ModelSummary summary = SummaryOf(options, file, console);
-        if (options.isJson) {
-            models.push_back(JsonOf(summary));
-        } else {
-            if (!isFirst) console.out << '\n';
-            WriteInfo(summary, language, console.out);
-        }
-        isFirst = false;
-        return exit_code::kFine;
-    });
-    if (!models.empty()) {
-        const nlohmann::ordered_json document = {
-            {"tool", {{"name", "tamur"}, {"version", TAMUR_VERSION}}}, {"files", models}};
-        console.out << JsonText(document, 2) << '\n';
-    }
-    return code;
+    return options.IsJson() ? InfoAsJson(options, console) : InfoAsText(options, console);
 }
 
 }  // namespace
@@ -68,7 +83,9 @@ void AddInfoCommand(CLI::App& app, const std::string& component, Task& task)
         "Exit codes: 0 fine; 1 a file was not imported; 2 wrong usage, a file that cannot be read "
         "to\nits end, no component, or the output cannot be written.");
     AddFiles(*command, options->files);
-    command->add_flag("--json", options->isJson, "for programs: docs/info.md");
+    AddChoice(*command, "--format", options->format, {"text", "json"},
+              "text (default) or json, for programs: docs/info.md");
+    command->add_flag("--json", options->hasJson, "the same as --format json");
     AddLanguage(*command, options->language);
     command->callback([&task, &component, options] {
         options->component = component;

@@ -1,5 +1,8 @@
 #include "json.h"
 
+#include <new>
+
+#include "../import.h"
 #include "../json_value.h"
 #include "../sums/json.h"
 
@@ -24,7 +27,7 @@ Json JsonOf(const MessageList& messages)
 
 Json JsonOf(const ModelSummary& summary)
 {
-    Json json = {{"file", summary.file}, {"version", summary.version}};
+    Json json = {{"file", summary.file}, {"imported", true}, {"version", summary.version}};
     json["servicePack"] = summary.servicePack < 0 ? Json() : Json(summary.servicePack);
     json["settings"] = {{"tolerance", ToJson(summary.settings.tol3D)},
                         {"workSpace", static_cast<int>(summary.settings.espaceDeTravail)},
@@ -42,6 +45,22 @@ Json JsonOf(const ModelSummary& summary)
         json["findings"][name] = summary.findings[i];
     }
     json["sums"] = JsonOf(summary.sums, summary.sections);
+    return json;
+}
+
+Json JsonOfFailure(const std::string& file)
+{
+    Json json = {{"file", file}, {"imported", false}};
+    try {
+        throw;
+    } catch (const NoModel& error) {
+        if (!error.Code().empty()) json["code"] = error.Code();
+        json["reason"] = error.Why();
+    } catch (const std::bad_alloc&) {
+        json["reason"] = "not enough memory";
+    } catch (const std::exception& error) {
+        json["reason"] = error.what();
+    }
     return json;
 }
 

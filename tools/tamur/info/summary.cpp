@@ -59,10 +59,11 @@ void AddSums(const Imported& imported, host::Findings& findings, ModelSummary& s
 
 }  // namespace
 
-ModelSummary Summarize(const std::string& componentPath, const Input& input)
+ModelSummary Summarize(const std::string& componentPath, const Input& input,
+                       host::Language language)
 {
     host::Findings findings(0);
-    const Imported imported = Import(componentPath, input, findings);
+    const Imported imported = Import(componentPath, input, language, findings);
     ITAMURStructureReader& reader = *imported.reader;
     ModelSummary summary;
     summary.file = input.Name();

@@ -48,6 +48,7 @@ inline constexpr host::Severity kSeverities[] = {host::Severity::kError, host::S
                                                  host::Severity::kNote};
 
 // Of the model as the component at that path has it, or the one that is built in.
-[[nodiscard]] ModelSummary Summarize(const std::string& componentPath, const Input& input);
+[[nodiscard]] ModelSummary Summarize(const std::string& componentPath, const Input& input,
+                                     host::Language language);
 
 }  // namespace tamur::tool

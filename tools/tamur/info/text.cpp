@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "../setting_words.h"
 #include "../sums/text.h"
 #include "host/findings/plain_text.h"
 #include "host/kinds.h"
@@ -20,13 +21,8 @@ constexpr Name kFile = {{"file", "fichier"}};
 constexpr Name kVersion = {{"version", "version"}};
 constexpr Name kServicePack = {{"service pack", "service pack"}};
 constexpr Name kWorkSpace = {{"working space", "espace de travail"}};
-constexpr Name kPlane = {{"plane frame", "plan"}};
-constexpr Name kGrid = {{"grid", "grille"}};
-constexpr Name kSpace = {{"space frame", "spatial"}};
 constexpr Name kTolerance = {{"tolerance", "tolérance"}};
 constexpr Name kRigid = {{"rigid in bending", "rigide en flexion"}};
-constexpr Name kYes = {{"yes", "oui"}};
-constexpr Name kNo = {{"no", "non"}};
 constexpr Name kExtent = {{"extent in ", "étendue en "}};
 constexpr Name kTo = {{" to ", " à "}};
 constexpr Name kSkipped = {{"skipped combinations", "combinaisons omises"}};
@@ -98,12 +94,9 @@ class InfoText {
         Entry(In(kVersion)) << host::PlainText(summary_.version) << '\n';
         if (summary_.servicePack >= 0) Entry(In(kServicePack)) << summary_.servicePack << '\n';
         const TMRStructureData& settings = summary_.settings;
-        Entry(In(kWorkSpace)) << In(settings.espaceDeTravail == TMRWS_PLAN     ? kPlane
-                                    : settings.espaceDeTravail == TMRWS_GRILLE ? kGrid
-                                                                               : kSpace)
-                              << '\n';
+        Entry(In(kWorkSpace)) << WorkSpaceWords(settings.espaceDeTravail, language_) << '\n';
         Entry(In(kTolerance)) << settings.tol3D << " m\n";
-        Entry(In(kRigid)) << In(settings.rigideEnFlexion == TMRStructureRigide ? kYes : kNo)
+        Entry(In(kRigid)) << YesOrNo(settings.rigideEnFlexion == TMRStructureRigide, language_)
                           << '\n';
     }
 

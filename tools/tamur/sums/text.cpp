@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 
 #include "host/findings/plain_text.h"
 #include "section_names.h"
@@ -12,13 +13,13 @@ namespace tamur::tool {
 namespace {
 
 constexpr std::string_view kForceNames[] = {"Fx", "Fy", "Fz", "Mx", "My", "Mz"};
-constexpr std::string_view kMassNames[] = {"Mx", "My", "Mz", "Ix", "Iy", "Iz"};
 
 // docs/conventions.md has the reasons.
 struct SumsWords {
     std::string_view loads, loadCase, global, local, projected, otherFrame;
     std::string_view ofLoads, ofFrames, masses, lengths, areas, ofAreas, units;
-    std::string_view andMore, more, ofMore;
+    std::string_view andMore, more, ofMore, of;
+    std::string_view massNames[6];
 };
 
 const SumsWords& SumsWordsIn(host::Language language)
@@ -35,14 +36,17 @@ const SumsWords& SumsWordsIn(host::Language language)
         "moments "
         "of forces about a point.",
         "assumed: local and projected loads are added whole, each kind apart, in their own frames.",
-        "masses, as written",
+        "masses (unit as in the file)",
         "length of bars from end to end (m), by section",
         "area of surfaces (m²), by thickness (m)",
         "assumed: openings do not overlap, and take their whole area away.",
         "Newtons and metres: nothing is converted, the product writes them.",
         "and ",
         " more",
-        " more: "};
+        " more: ",
+        ":",
+        {"mass along x", "mass along y", "mass along z", "inertia about x", "inertia about y",
+         "inertia about z"}};
     static constexpr SumsWords kFrench = {
         "charges par cas (N, N·m)",
         "cas",
@@ -56,24 +60,43 @@ const SumsWords& SumsWordsIn(host::Language language)
         "supposé : charges locales et projetées sont additionnées entières, à part, dans leurs "
         "propres "
         "repères.",
-        "masses, telles qu'écrites",
+        "masses (unité du fichier)",
         "longueur des filaires de bout en bout (m), par section",
         "aire des surfaciques (m²), par épaisseur (m)",
         "supposé : les ouvertures ne se recouvrent pas, et enlèvent toute leur aire.",
         "Newtons et mètres : rien n'est converti, le produit les écrit.",
         "et encore ",
         "",
-        " : "};
+        " : ",
+        " :",
+        {"masse selon x", "masse selon y", "masse selon z", "inertie autour de x",
+         "inertie autour de y", "inertie autour de z"}};
     return language == host::Language::kFrench ? kFrench : kEnglish;
 }
 
 // Those that are not 0: "Fz -20000".
-void WriteValues(const host::Forces& values, const std::string_view (&names)[6], std::ostream& out)
+void WriteValues(std::span<const double> values, std::span<const std::string_view> names,
+                 std::ostream& out)
 {
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (values[i] != 0) out << "  " << names[i] << ' ' << values[i];
     }
     out << '\n';
+}
+
+// Masses in a line and inertias in another.
+void WriteMasses(const host::Forces& masses, const SumsWords& words, std::ostream& out)
+{
+    if (masses == host::Forces{}) return;
+    out << words.masses << '\n';
+    const std::span<const double> values(masses);
+    const std::span<const std::string_view> names(words.massNames);
+    for (const std::size_t first : {std::size_t{0}, std::size_t{3}}) {
+        const auto part = values.subspan(first, 3);
+        const auto isZero = [](double value) { return value == 0; };
+        if (std::all_of(part.begin(), part.end(), isZero)) continue;
+        WriteValues(part, names.subspan(first, 3), out);
+    }
 }
 
 std::string FrameName(int frame, const SumsWords& words)
@@ -90,7 +113,8 @@ void WriteCase(const host::CaseSum& loadCase, const SumsWords& words, std::ostre
 {
     for (const auto& [frame, forces] : loadCase.byFrame) {
         out << "  " << words.loadCase << ' ' << loadCase.number << ' '
-            << host::PlainText(loadCase.title) << " (" << FrameName(frame, words) << "):";
+            << host::PlainText(loadCase.title) << " (" << FrameName(frame, words) << ')'
+            << words.of;
         WriteValues(forces, kForceNames, out);
     }
 }
@@ -127,7 +151,7 @@ void WriteSizes(const std::map<Key, double>& sizes, const SumsWords& words, cons
     double rest = 0;
     for (std::size_t i = 0; i < list.size(); ++i) {
         if (i < most) {
-            out << "  " << nameOf(list[i].first) << ": " << list[i].second << '\n';
+            out << "  " << nameOf(list[i].first) << words.of << ' ' << list[i].second << '\n';
         } else {
             rest += list[i].second;
         }
@@ -146,10 +170,7 @@ void WriteSums(const host::Sums& sums, const std::vector<std::string>& sections,
     const SumsWords& words = SumsWordsIn(language);
     const auto before = out.precision(8);
     WriteCases(sums.cases, words, most, out);
-    if (sums.masses != host::Forces{}) {
-        out << words.masses << ':';
-        WriteValues(sums.masses, kMassNames, out);
-    }
+    WriteMasses(sums.masses, words, out);
     if (!sums.lengths.empty()) out << words.lengths << '\n';
     WriteSizes(sums.lengths, words, "m", most, out,
                [&](const auto& ends) { return host::PlainText(SectionNames(ends, sections)); });

@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "../exit_code.h"
+#include "../failure.h"
 #include "../import.h"
 #include "../input.h"
 #include "../options.h"
@@ -63,7 +64,7 @@ std::string MakePage(const ViewOptions& options, const Input& input, const Conso
                             "tamur: reading " + input.Name());
     host::Findings findings(kShownOfEach);
     host::view::PageOfAFile page = host::view::PageOfFile(input.Path(), NameOf(input), findings);
-    if (page.trouble) throw ImportRefused(input, *page.trouble);
+    if (page.trouble) throw ImportRefused(input, *page.trouble, host::LanguageOfLocale());
     return std::move(page.html);
 }
 
@@ -73,7 +74,7 @@ void Write(const std::string& page, const fs::path& path, bool mayReplace)
     std::ofstream file(output.AddFile(path), std::ios::binary);
     file << page;
     file.close();
-    if (!file) throw std::runtime_error(host::Utf8Of(path) + ": it cannot be written");
+    if (!file) host::FailToWrite();
     output.Commit();
 }
 
@@ -81,7 +82,8 @@ int View(const ViewOptions& options, const Console& console)
 {
     const Input input(options.file, console.in);
     const fs::path path = OutputOf(options, input);
-    Write(MakePage(options, input, console), path, options.mayReplace);
+    const std::string page = MakePage(options, input, console);
+    SpeakingIn(host::LanguageOfLocale(), [&] { Write(page, path, options.mayReplace); });
     if (!options.isQuiet) console.out << host::PlainText(host::Utf8Of(path), kLongestPath) << '\n';
     if (options.opens) OpenPage(path);
     return exit_code::kFine;
@@ -101,10 +103,8 @@ void AddViewCommand(CLI::App& app, Task& task)
         "Exit codes: 0 written; 1 the file was not imported; 2 wrong usage, or the page cannot be "
         "written\nor opened.");
     AddFile(*command, options->file);
-    command
-        ->add_option("-o,--output", options->output,
-                     "where (default: the name of FILE with .html, in this folder)")
-        ->type_name("OUT");
+    AddOutput(*command, options->output,
+              "where (default: the name of FILE with .html, in this folder)");
     command->add_flag("--open", options->opens, "show it in the browser");
     command->add_flag("--force", options->mayReplace,
                       "replace a file that is no page of this command");
