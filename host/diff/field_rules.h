@@ -69,7 +69,4 @@ inline constexpr bool kIsElement = requires(PublicRecord& record)
        requires(PublicRecord & record) { record.lIdentifier; } &&
        !requires(PublicRecord & record) { record.iNumCas; });
 
-template <class PublicRecord>
-inline constexpr bool kHasName = kIsReferredTo<PublicRecord>;
-
 }  // namespace tamur::host

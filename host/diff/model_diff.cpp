@@ -4,9 +4,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <unordered_set>
 
-#include "host/diff/table_diff.h"
+#include "host/diff/compared_records.h"
 
 namespace tamur::host {
 namespace {
@@ -83,27 +84,20 @@ Record<TMRModes> ModesOf(ITAMURStructureReader& reader)
 
 }  // namespace
 
-std::size_t TableDiff::CountOf(What what) const
-{
-    return static_cast<std::size_t>(
-        std::count_if(changes_.begin(), changes_.end(),
-                      [what](const Change& change) { return change.what == what; }));
-}
-
 bool ModelDiff::IsEmpty() const
 {
     return settings.empty() && modes.empty() && messagesAdded.empty() && messagesRemoved.empty() &&
            skippedCombinations.before == skippedCombinations.after &&
            disabledCombinations.before == disabledCombinations.after &&
            std::all_of(tables.begin(), tables.end(),
-                       [](const auto& table) { return table->Changes().empty(); });
+                       [](const TableDiff& table) { return table.Changes().empty(); });
 }
 
 ModelDiff Compare(ITAMURStructureReader& before, ITAMURStructureReader& after, double tolerance)
 {
     const auto comparing = std::make_shared<Comparing>(tolerance);
-    comparing->before.groups = GroupsOf(before);
-    comparing->after.groups = GroupsOf(after);
+    comparing->groupsBefore = GroupsOf(before);
+    comparing->groupsAfter = GroupsOf(after);
 
     ModelDiff diff;
     FieldComparison fields(comparing->tolerance, comparing->identities);
@@ -113,10 +107,12 @@ ModelDiff Compare(ITAMURStructureReader& before, ITAMURStructureReader& after, d
     diff.modes = fields.Compare(modesBefore.Get(), modesAfter.Get());
 
     // What is referred to comes first in the contract, so that the others find it compared.
+    const auto add = [&](std::unique_ptr<ComparedTables> tables) {
+        diff.tables.emplace_back(std::move(tables), comparing->identities);
+    };
     ForEachTableType([&](auto table) {
         using PublicRecord = typename decltype(table)::PublicRecord;
-        diff.tables.push_back(
-            std::make_unique<TableDiffOf<PublicRecord>>(before, after, comparing));
+        add(std::make_unique<ComparedRecords<PublicRecord>>(before, after, comparing));
     });
 
     diff.skippedCombinations = {SkippedCombinations(before), SkippedCombinations(after)};

@@ -1,9 +1,9 @@
 #include "host/file/refusals.h"
 
 #include <cstdlib>
-#include <regex>
 
 #include "host/file/header_names.h"
+#include "import/scan/characters.h"
 
 namespace tamur::host {
 namespace {
@@ -58,8 +58,18 @@ Finding TextAfterEnd(const FileScan& scan, const FileTail& tail)
 
 bool IsUsualVersion(const std::string& version)
 {
-    static const std::regex usual("[0-9]{2}\\.[0-9]+[A-Za-z]?[0-9]*\\s*");
-    return version.size() < 32 && std::regex_match(version, usual);
+    const char* at = version.c_str();
+    const auto skipDigits = [&at] {
+        const char* const first = at;
+        while (IsDigit(*at)) ++at;
+        return at - first;
+    };
+    if (skipDigits() != 2 || *at++ != '.' || skipDigits() == 0) return false;
+    const bool isLetter = (*at >= 'A' && *at <= 'Z') || (*at >= 'a' && *at <= 'z');
+    if (isLetter) ++at;
+    skipDigits();
+    constexpr std::size_t kLongest = 31;
+    return version.size() <= kLongest && SkipBlanks(at) == version.c_str() + version.size();
 }
 
 Finding FindingOf(Refusal refusal, const FileScan& scan, const FileTail& tail,

@@ -113,7 +113,9 @@ void PointMerger::AddBlock(std::span<const Point> points, std::vector<std::uint3
     }
     for (std::size_t i = 0; i < points.size(); ++i) {
         const std::uint32_t first = SlotOf(hashes[i]);
-        if (first != kNone) __builtin_prefetch(&points_[first]);
+        if (first == kNone) continue;
+        __builtin_prefetch(&points_[first]);
+        __builtin_prefetch(&links_[first]);
     }
     for (std::size_t i = 0; i < points.size(); ++i) {
         numbers.push_back(NumberOf(points[i], hashes[i]));

@@ -56,7 +56,7 @@ std::size_t WidthFor(std::span<const std::int32_t> values)
     return width;
 }
 
-std::string Member(const char* name, std::size_t value)
+std::string NamedNumber(const char* name, std::size_t value)
 {
     return std::string(",\"") + name + "\":" + std::to_string(value);
 }
@@ -74,7 +74,7 @@ bool IsDecimal(double value, double power, std::int32_t& integer)
 
 std::string DataBlock::AddInts(std::span<const std::int32_t> values)
 {
-    const std::string count = Member("count", values.size());
+    const std::string count = NamedNumber("count", values.size());
     if (std::all_of(values.begin(), values.end(),
                     [&](std::int32_t value) { return value == values.front(); })) {
         const std::int32_t value = values.empty() ? 0 : values.front();
@@ -93,7 +93,7 @@ std::string DataBlock::AddInts(std::span<const std::int32_t> values)
     const std::size_t at = bytes_.size();
     AddPlanes(bytes, width);
     return std::string(R"({"as":")") + (areDifferences ? "differences" : "plain") + '"' +
-           Member("bytes", width) + Member("at", at) + count + "}";
+           NamedNumber("bytes", width) + NamedNumber("at", at) + count + "}";
 }
 
 std::string DataBlock::AddReals(std::span<const double> values)
@@ -107,14 +107,14 @@ std::string DataBlock::AddReals(std::span<const double> values)
     }
     const std::size_t at = bytes_.size();
     AddPlanes(bytes, sizeof(double));
-    return R"({"as":"real")" + Member("at", at) + Member("count", values.size()) + "}";
+    return R"({"as":"real")" + NamedNumber("at", at) + NamedNumber("count", values.size()) + "}";
 }
 
 std::string DataBlock::AddBytes(std::string_view bytes)
 {
     const std::size_t at = bytes_.size();
     bytes_ += bytes;
-    return R"({"as":"bytes")" + Member("at", at) + Member("count", bytes.size()) + "}";
+    return R"({"as":"bytes")" + NamedNumber("at", at) + NamedNumber("count", bytes.size()) + "}";
 }
 
 void DataBlock::AddPlanes(const std::string& values, std::size_t width)
@@ -131,7 +131,7 @@ bool DataBlock::AddDecimals(std::span<const double> values, std::string& descrip
         std::size_t i = 0;
         while (i < values.size() && IsDecimal(values[i], kPowersOfTen[digits], integers[i])) ++i;
         if (i < values.size()) continue;
-        description = R"({"as":"decimal")" + Member("digits", digits) + R"(,"ints":)" +
+        description = R"({"as":"decimal")" + NamedNumber("digits", digits) + R"(,"ints":)" +
                       AddInts(integers) + "}";
         return true;
     }
@@ -157,7 +157,7 @@ bool DataBlock::AddFew(std::span<const double> values, std::string& description)
     for (const double value : few) {
         AppendLittleEndian(bytes_, std::bit_cast<std::uint64_t>(value), sizeof value);
     }
-    description = R"({"as":"few")" + Member("at", at) + Member("values", few.size()) +
+    description = R"({"as":"few")" + NamedNumber("at", at) + NamedNumber("values", few.size()) +
                   R"(,"places":)" + AddInts(places) + "}";
     return true;
 }

@@ -85,15 +85,18 @@ class Packer {
             auto record = table.At(rank);
             columns.Add(record.Get());
         }
-        const auto rows = static_cast<std::size_t>(size);
-        AddDerived<typename Table::PublicRecord>(columns, rows);
-        columns.AddInts("line", LinesOf(KindOfTable(table.Name()), rows));
-        Write(table.Name(), columns);
+        FinishTable(KindOfTable(table.Name()), table.Name(), static_cast<std::size_t>(size),
+                    columns);
+    }
+    void FinishTable(Kind kind, const char* name, std::size_t rows, TableColumns& columns)
+    {
+        AddDerived(kind, columns, rows);
+        columns.AddInts("line", LinesOf(kind, rows));
+        Write(name, columns);
     }
 
     // What the structure knows and no field says.
-    template <class PublicRecord>
-    void AddDerived(TableColumns& columns, std::size_t rows)
+    void AddDerived(Kind kind, TableColumns& columns, std::size_t rows)
     {
         const Structure& structure = model_.structure;
         const auto addOfBars = [&](const char* name, const char* table, Index Bar::*place) {
@@ -102,29 +105,27 @@ class Packer {
                 ByRank(structure.bars, rows, [&](const Bar& bar) { return PlaceOf(bar.*place); }),
                 table);
         };
-        if constexpr (std::is_same_v<PublicRecord, TMRFilaire>) {
+        if (kind == Kind::kBar) {
             addOfBars("StartSection", "Sections", &Bar::startSection);
             addOfBars("EndSection", "Sections", &Bar::endSection);
             addOfBars("StartConnection", "Attaches", &Bar::startRelease);
             addOfBars("EndConnection", "Attaches", &Bar::endRelease);
             addOfBars("FilaireMaterial", "Materials", &Bar::material);
-        } else if constexpr (std::is_same_v<PublicRecord, TMRSurfacique>) {
+        } else if (kind == Kind::kSurface) {
             columns.AddInts(
                 "SurfaciqueMaterial",
                 ByRank(structure.surfaces, rows,
                        [](const Surface& surface) { return PlaceOf(surface.material); }),
                 "Materials");
-        } else if constexpr (std::is_same_v<PublicRecord, TMROuverture>) {
+        } else if (kind == Kind::kOpening) {
             const auto surfaceOf = [&](const Surface& opening) {
                 const Index index = opening.surface;
                 return index == kNone ? -1 : PlaceOf(structure.surfaces[index].rank);
             };
             columns.AddInts("surface", ByRank(structure.openings, rows, surfaceOf), "Surfaciques");
-        } else {
-            const Kind kind = KindOfTable(TableOf<PublicRecord>::kName);
-            AddCondition(kind, columns, rows);
-            AddCarrier(kind, columns, rows);
         }
+        AddCondition(kind, columns, rows);
+        AddCarrier(kind, columns, rows);
     }
     // The first bar or surface that a load acts on: local axes of loads are its.
     void AddCarrier(Kind kind, TableColumns& columns, std::size_t rows)

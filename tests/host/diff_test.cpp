@@ -64,8 +64,8 @@ std::string TextOf(const TableDiff& table, const Change& change)
 std::vector<std::string> TextsOf(const ModelDiff& diff)
 {
     std::vector<std::string> texts;
-    for (const auto& table : diff.tables) {
-        for (const Change& change : table->Changes()) texts.push_back(TextOf(*table, change));
+    for (const TableDiff& table : diff.tables) {
+        for (const Change& change : table.Changes()) texts.push_back(TextOf(table, change));
     }
     return texts;
 }
@@ -218,12 +218,12 @@ TEST(Diffs, NameWhatWasAddedAndRemovedInEveryTable)
     for (const auto& [a, b, what] : {std::tuple(&*everything, &*nothing, What::kRemoved),
                                      std::tuple(&*nothing, &*everything, What::kAdded)}) {
         const ModelDiff diff = Compare(*a, *b);
-        for (const auto& table : diff.tables) {
+        for (const TableDiff& table : diff.tables) {
             // A model without materials and sections has one of each that the import made.
-            const Kind kind = table->TheKind();
+            const Kind kind = table.TheKind();
             const std::size_t others = kind == Kind::kMaterial || kind == Kind::kSection ? 1 : 0;
-            EXPECT_GT(table->CountOf(what), 0u) << TableNameOf(kind);
-            EXPECT_EQ(table->CountOf(what) + others, table->Changes().size()) << TableNameOf(kind);
+            EXPECT_GT(table.CountOf(what), 0u) << TableNameOf(kind);
+            EXPECT_EQ(table.CountOf(what) + others, table.Changes().size()) << TableNameOf(kind);
         }
     }
 }

@@ -10,6 +10,8 @@
 namespace tamur::test {
 namespace {
 
+using namespace std::string_literals;
+
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::Eq;
@@ -370,10 +372,13 @@ TEST(Refusals, TellVersionsThatAreNotWellWrittenFromOldOnes)
     for (const char* absent : {"", "  "}) {
         EXPECT_THAT(codes(absent), ElementsAre("TMR012")) << absent;
     }
-    for (const char* accepted : {"12,1", "9", "11"}) {
+    const std::string longest = "12." + std::string(28, '1'), longer = longest + '1';
+    for (const std::string& accepted :
+         {"12,1"s, "9"s, "11"s, "12."s, "12.A"s, "12.1AB"s, "12.1A2B"s, "12.1.1"s, longer}) {
         EXPECT_THAT(codes(accepted), ElementsAre("TMR010")) << accepted;
     }
-    for (const char* usual : {"10.1", "12.2A", "14.1E", "14.1E2", "15.0"}) {
+    for (const std::string& usual :
+         {"10.1"s, "12.2A"s, "14.1E"s, "14.1E2"s, "14.12e34"s, "14.1E \t"s, "15.0"s, longest}) {
         EXPECT_THAT(codes(usual), IsEmpty()) << usual;
     }
 }

@@ -15,9 +15,9 @@ void AppendEscape(std::string& out, unsigned c)
 
 }  // namespace
 
-std::string JsonText(const nlohmann::ordered_json& value, int indent)
+std::string JsonText(const Json& value, int indent)
 {
-    using Handler = nlohmann::ordered_json::error_handler_t;
+    using Handler = Json::error_handler_t;
     const std::string text = value.dump(indent, ' ', false, Handler::replace);
     std::string out;
     out.reserve(text.size());

@@ -3,13 +3,11 @@
 
 #include <TAMURReader.h>
 
-#include <nlohmann/json.hpp>
-
 #include <concepts>
 
-namespace tamur::tool {
+#include "json_text.h"
 
-using Json = nlohmann::ordered_json;
+namespace tamur::tool {
 
 // JSON has no word for what is no finite number: "inf", "-inf", "nan".
 [[nodiscard]] Json ToJson(double number);

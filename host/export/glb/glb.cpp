@@ -169,11 +169,7 @@ class GlbScene {
                     WriteElement(kind, static_cast<Index>(rank), record.Get()));
                 report_.steps.Do();
             }
-            Children groups;
-            for (const auto& [number, children] : branches) {
-                AddBranch<PublicRecord>(kind, number, children, groups);
-            }
-            scene_->AddBranch(Range<PublicRecord>::PlainName(), groups, roots_, [] {});
+            AddBranches(kind, kBranchesOf<PublicRecord>, branches, table.PlainName());
             if (!IsDrawn(kind)) report_.losses.Add(kind, kNotDrawn, taken);
         }
     }
@@ -185,31 +181,51 @@ class GlbScene {
     }
 
     // Elements are together by their group, loads by their case.
+    enum class Branches { kCases, kGroups, kNone };
+    template <class PublicRecord>
+    static constexpr Branches kBranchesOf = [] {
+        if constexpr (requires(PublicRecord record) { record.NumCas; }) {
+            return Branches::kCases;
+        } else if constexpr (requires(PublicRecord record) { record.GroupNumber; }) {
+            return Branches::kGroups;
+        } else {
+            return Branches::kNone;
+        }
+    }();
     template <class PublicRecord>
     static int BranchOf(const PublicRecord& record)
     {
-        if constexpr (requires { record.NumCas; }) {
+        if constexpr (kBranchesOf<PublicRecord> == Branches::kCases) {
             return record.NumCas;
-        } else if constexpr (requires { record.GroupNumber; }) {
+        } else if constexpr (kBranchesOf<PublicRecord> == Branches::kGroups) {
             return record.GroupNumber;
         } else {
             return 0;
         }
     }
 
-    template <class PublicRecord>
-    void AddBranch(Kind kind, int number, const Children& children, Children& parent)
+    // Those of one table, below one node, with what is in each by its number.
+    void AddBranches(Kind kind, Branches branches, const std::map<int, Children>& contents,
+                     const char* name)
     {
-        if constexpr (requires(PublicRecord record) { record.NumCas; }) {
-            AddBranchOf<TMRCas>("case", number, children, parent,
-                                [&](const TMRCas& record) { return record.Num == number; });
-        } else if constexpr (requires(PublicRecord record) { record.GroupNumber; }) {
-            AddBranchOf<TMRGroupe>("group", number, children, parent, [&](const TMRGroupe& record) {
-                return record.Num == number && KindOfGroup(record.Elem) == kind;
-            });
-        } else {
-            parent.insert(parent.end(), children.begin(), children.end());
+        Children parent;
+        for (const auto& content : contents) {
+            const int number = content.first;
+            const Children& children = content.second;
+            if (branches == Branches::kCases) {
+                AddBranchOf<TMRCas>(
+                    "case", number, children, parent,
+                    [number](const TMRCas& record) { return record.Num == number; });
+            } else if (branches == Branches::kGroups) {
+                AddBranchOf<TMRGroupe>(
+                    "group", number, children, parent, [number, kind](const TMRGroupe& record) {
+                        return record.Num == number && KindOfGroup(record.Elem) == kind;
+                    });
+            } else {
+                parent.insert(parent.end(), children.begin(), children.end());
+            }
         }
+        scene_->AddBranch(name, parent, roots_, [] {});
     }
     // Named by the record that fits, which is in its extras.
     template <class PublicRecord, class Fits>

@@ -54,13 +54,14 @@ class ModelSheet {
 
     void WriteCounts()
     {
-        ForEachTable(source_.reader, [this](const auto& table) {
-            Row("records", {}, std::string(table.Name()), static_cast<std::int64_t>(table.Size()));
-            const std::size_t left = source_.selection.LeavesOut(KindOfTable(table.Name()));
-            if (left != 0) {
-                Row("not selected", {}, std::string(table.Name()), static_cast<std::int64_t>(left));
-            }
-        });
+        ForEachTable(source_.reader,
+                     [this](const auto& table) { WriteCount(table.Name(), table.Size()); });
+    }
+    void WriteCount(const std::string& table, LONG size)
+    {
+        Row("records", {}, table, static_cast<std::int64_t>(size));
+        const std::size_t left = source_.selection.LeavesOut(KindOfTable(table));
+        if (left != 0) Row("not selected", {}, table, static_cast<std::int64_t>(left));
     }
 
     // Of the whole model, whatever is selected.

@@ -44,9 +44,9 @@ const BalanceWords& BalanceWordsIn(host::Language language)
     return language == host::Language::kFrench ? kFrench : kEnglish;
 }
 
-class Table {
+class BalanceTable {
  public:
-    explicit Table(std::ostream& out) : out_(out) {}
+    explicit BalanceTable(std::ostream& out) : out_(out) {}
 
     std::ostream& Row(std::uint64_t count, std::string_view what)
     {
@@ -62,7 +62,7 @@ class Table {
     std::ostream& out_;
 };
 
-void WriteKind(Table& table, const host::KindBalance& kind, std::string_view noun,
+void WriteKind(BalanceTable& table, const host::KindBalance& kind, std::string_view noun,
                const BalanceWords& words)
 {
     std::ostream& row = table.Row(kind.lines, noun);
@@ -76,7 +76,7 @@ void WriteKind(Table& table, const host::KindBalance& kind, std::string_view nou
 void WriteBalance(const host::Balance& balance, host::Language language, std::ostream& out)
 {
     const BalanceWords& words = BalanceWordsIn(language);
-    Table table(out);
+    BalanceTable table(out);
     table.Row(balance.lines, words.lines) << '\n';
     table.RowIfAny(balance.cutRests, words.cut);
     table.RowIfAny(balance.headers, words.headers);

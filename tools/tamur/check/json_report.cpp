@@ -10,7 +10,6 @@ namespace {
 using host::Finding;
 using host::Language;
 using host::Severity;
-using Json = nlohmann::ordered_json;
 
 Json PlaceOf(const Finding& finding)
 {
@@ -26,14 +25,14 @@ std::string NameOf(host::Kind kind)
     return kind == host::Kind::kNone ? "other" : std::string(NounOf(kind, Language::kEnglish));
 }
 
-Json ToJson(const host::KindBalance& kind)
+Json CountsAsJson(const host::KindBalance& kind)
 {
     Json json = {{"lines", kind.lines}, {"records", kind.records}};
     for (const auto& [code, count] : kind.dropped) json["dropped"][IdOf(code)] = count;
     return json;
 }
 
-Json ToJson(const host::Balance& balance)
+Json BalanceAsJson(const host::Balance& balance)
 {
     Json json = {{"addsUp", balance.AddsUp()},
                  {"lines", balance.lines},
@@ -55,7 +54,7 @@ Json ToJson(const host::Balance& balance)
     }
     for (std::size_t i = 0; i < balance.kinds.size(); ++i) {
         if (balance.kinds[i].lines == 0) continue;
-        json["kinds"][NameOf(static_cast<host::Kind>(i))] = ToJson(balance.kinds[i]);
+        json["kinds"][NameOf(static_cast<host::Kind>(i))] = CountsAsJson(balance.kinds[i]);
     }
     return json;
 }
@@ -77,14 +76,14 @@ class JsonReport final : public Report {
         }
         file["findings"] = Json::array();
         for (const Finding& finding : report.findings.InFileOrder()) {
-            file["findings"].push_back(ToJson(finding));
+            file["findings"].push_back(FindingAsJson(finding));
         }
         file["notListed"] = Json::object();
         for (const auto& [code, count] : report.findings.NotHeld()) {
             file["notListed"][IdOf(code)] = count;
         }
         if (report.showsBalance) {
-            file["balance"] = tool::ToJson(report.checked.imported.balance);
+            file["balance"] = BalanceAsJson(report.checked.imported.balance);
         }
         if (report.showsSums && report.checked.sums) {
             file["sums"] = JsonOf(*report.checked.sums, report.checked.sections);
@@ -95,7 +94,7 @@ class JsonReport final : public Report {
     void Finish() override { out_ << JsonText(document_, 2) << '\n'; }
 
  private:
-    [[nodiscard]] Json ToJson(const Finding& finding) const
+    [[nodiscard]] Json FindingAsJson(const Finding& finding) const
     {
         const host::CodeInfo& info = host::InfoOf(finding.code);
         Json json = {{"code", IdOf(finding.code)},

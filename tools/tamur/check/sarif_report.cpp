@@ -9,7 +9,6 @@ namespace {
 using host::Finding;
 using host::Language;
 using host::Severity;
-using Json = nlohmann::ordered_json;
 
 std::string_view LevelOf(Severity severity)
 {

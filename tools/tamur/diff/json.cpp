@@ -80,11 +80,11 @@ Json JsonOf(const host::TableDiff& table, const host::Change& change)
 Json SummaryOf(const host::ModelDiff& diff)
 {
     Json summary = Json::object();
-    for (const auto& table : diff.tables) {
-        if (table->Changes().empty()) continue;
-        Json& counts = summary[std::string(host::TableNameOf(table->TheKind()))];
+    for (const host::TableDiff& table : diff.tables) {
+        if (table.Changes().empty()) continue;
+        Json& counts = summary[std::string(host::TableNameOf(table.TheKind()))];
         for (int i = 0; i < host::kWhatCount; ++i) {
-            const std::size_t count = table->CountOf(static_cast<What>(i));
+            const std::size_t count = table.CountOf(static_cast<What>(i));
             if (count != 0) counts[NameOf(static_cast<What>(i))] = count;
         }
     }
@@ -108,9 +108,9 @@ void WriteDiffJson(const DiffResult& result, std::ostream& out)
                     Json{{"added", diff.messagesAdded}, {"removed", diff.messagesRemoved}});
     document.Member("summary", SummaryOf(diff));
     document.BeginArray("changes");
-    for (const auto& table : diff.tables) {
-        for (const host::Change& change : table->Changes()) {
-            document.Element(JsonOf(*table, change));
+    for (const host::TableDiff& table : diff.tables) {
+        for (const host::Change& change : table.Changes()) {
+            document.Element(JsonOf(table, change));
         }
     }
     document.EndArray();

@@ -93,14 +93,14 @@ class Teller {
     void TellSummary(const host::ModelDiff& diff)
     {
         bool isFirst = true;
-        for (const auto& table : diff.tables) {
-            if (table->Changes().empty()) continue;
+        for (const host::TableDiff& table : diff.tables) {
+            if (table.Changes().empty()) continue;
             if (isFirst) out_ << '\n';
             isFirst = false;
-            out_ << Noun(table->TheKind());
+            out_ << Noun(table.TheKind());
             const char* between = words_.of;
             for (int what = 0; what < host::kWhatCount; ++what) {
-                const std::size_t count = table->CountOf(static_cast<What>(what));
+                const std::size_t count = table.CountOf(static_cast<What>(what));
                 if (count == 0) continue;
                 out_ << between << count << words_.counted[what];
                 between = ", ";
@@ -269,7 +269,7 @@ void WriteDiffText(const DiffResult& result, host::Language language, bool shows
     teller.TellVersions(result);
     teller.TellFields(teller.Words().settings, diff.settings);
     teller.TellFields(teller.Noun(Kind::kModes), diff.modes);
-    for (const auto& table : diff.tables) teller.TellTable(*table);
+    for (const host::TableDiff& table : diff.tables) teller.TellTable(table);
     teller.TellCounts(teller.Words().skippedCombinations, diff.skippedCombinations);
     teller.TellCounts(teller.Words().disabledCombinations, diff.disabledCombinations);
     teller.TellMessages('-', diff.messagesRemoved);

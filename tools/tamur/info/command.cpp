@@ -47,7 +47,7 @@ int InfoAsText(const InfoOptions& options, const Console& console)
 
 int InfoAsJson(const InfoOptions& options, const Console& console)
 {
-    nlohmann::ordered_json models = nlohmann::ordered_json::array();
+    Json models = Json::array();
     const int code = ForEachFile(options.files, console, [&](const std::string& file) {
         try {
             models.push_back(JsonOf(SummaryOf(options, file, console)));
@@ -57,8 +57,8 @@ int InfoAsJson(const InfoOptions& options, const Console& console)
         }
         return exit_code::kFine;
     });
-    const nlohmann::ordered_json document = {
-        {"tool", {{"name", "tamur"}, {"version", TAMUR_VERSION}}}, {"files", models}};
+    const Json document = {{"tool", {{"name", "tamur"}, {"version", TAMUR_VERSION}}},
+                           {"files", models}};
     console.out << JsonText(document, 2) << '\n';
     return code;
 }

@@ -4,9 +4,8 @@
 
 namespace tamur::tool {
 
-nlohmann::ordered_json JsonOf(const host::Sums& sums, const std::vector<std::string>& sections)
+Json JsonOf(const host::Sums& sums, const std::vector<std::string>& sections)
 {
-    using Json = nlohmann::ordered_json;
     Json json = {{"cases", Json::array()},
                  {"masses", sums.masses},
                  {"lengths", Json::array()},

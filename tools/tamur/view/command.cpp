@@ -24,7 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Of each code: all are counted, and who lists more does not read them.
-constexpr std::size_t kShownOfEach = 1000;
+constexpr std::size_t kHeldOfEach = 1000;
 constexpr std::size_t kLongestPath = 4096;
 
 struct ViewOptions {
@@ -62,7 +62,7 @@ std::string MakePage(const ViewOptions& options, const Input& input, const Conso
 {
     const Progress progress(console.errors, console.isErrorsTerminal && !options.isQuiet,
                             "tamur: reading " + input.Name());
-    host::Findings findings(kShownOfEach);
+    host::Findings findings(kHeldOfEach);
     host::view::PageOfAFile page = host::view::PageOfFile(input.Path(), NameOf(input), findings);
     if (page.trouble) throw ImportRefused(input, *page.trouble, host::LanguageOfLocale());
     return std::move(page.html);
