@@ -11,4 +11,5 @@ foreach(kind EXE SHARED MODULE)
     # No time stamps: two builds give the same bytes.
     set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
 endforeach()
-add_compile_definitions(UNICODE _UNICODE _WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX)
+add_compile_definitions(UNICODE _UNICODE _WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX
+                        WIN32_LEAN_AND_MEAN)

@@ -1,5 +1,8 @@
 #include "host/geometry/ears.h"
 
+// The compiler does not see that the library's lists are never empty where it looks into them.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnull-dereference"
 #include <mapbox/earcut.hpp>
 
 namespace mapbox::util {
@@ -29,5 +32,6 @@ const std::vector<std::uint32_t>& EarCutter::Cut(const std::vector<std::vector<P
     library_->cutter(rings);
     return library_->cutter.indices;
 }
+#pragma GCC diagnostic pop
 
 }  // namespace tamur::host
