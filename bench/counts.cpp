@@ -2,46 +2,22 @@
 
 #include <tamur/ranges.h>
 
-#include <algorithm>
-#include <iterator>
 #include <stdexcept>
-#include <string_view>
+
+#include "host/kinds.h"
 
 namespace tamur::bench {
 namespace {
 
-// Which table is counted at a place: the contract does not know the kinds of a file's lines.
-struct CountedTable {
-    std::size_t place;
-    std::string_view name;
-};
-constexpr CountedTable kTables[] = {{1, "Nodes"},
-                                    {2, "Filaires"},
-                                    {3, "Surfaciques"},
-                                    {4, "AppuisPonctuels"},
-                                    {5, "ChargesPonctuelles"},
-                                    {6, "ChargesLineaires"},
-                                    {7, "ChargesSurfaciques"},
-                                    {8, "ChargesPoidsPropre"},
-                                    {9, "Masses"},
-                                    {10, "AppuisLineaires"},
-                                    {11, "AppuisSurfaciques"},
-                                    {12, "Deplacements"},
-                                    {13, "ChargesThermiques"},
-                                    {15, "SurfacicSections"},
-                                    {16, "LinesInterieur"},
-                                    {17, "Ouvertures"},
-                                    {20, "Parois"},
-                                    {21, "Cables"},
-                                    {22, "Lines"},
-                                    {kMaterials, "Materials"},
-                                    {kSections, "Sections"},
-                                    {kReleases, "Attaches"}};
-
-std::string NameOf(std::size_t place)
+// 0 for a table that is not compared.
+std::size_t PlaceOf(host::Kind kind)
 {
-    const auto table = std::ranges::find(kTables, place, &CountedTable::place);
-    return table == std::end(kTables) ? "what has no table" : std::string(table->name);
+    switch (kind) {
+        case host::Kind::kMaterial: return kMaterials;
+        case host::Kind::kSection: return kSections;
+        case host::Kind::kRelease: return kReleases;
+        default: return static_cast<std::size_t>(host::ElementNumberOf(kind));
+    }
 }
 
 }  // namespace
@@ -50,9 +26,8 @@ Counts CountsOf(ITAMURStructureReader& reader)
 {
     Counts counts = {};
     ForEachTable(reader, [&](const auto& table) {
-        const auto counted =
-            std::ranges::find(kTables, std::string_view(table.Name()), &CountedTable::name);
-        if (counted != std::end(kTables)) counts[counted->place] = table.Size();
+        const std::size_t place = PlaceOf(host::KindOfTable(table.Name()));
+        if (place != 0) counts[place] = table.Size();
     });
     return counts;
 }
@@ -61,8 +36,8 @@ void RequireSame(const Counts& component, const Counts& reference, const std::st
 {
     for (std::size_t place = 0; place < component.size(); ++place) {
         if (reference[place] == component[place]) continue;
-        throw std::runtime_error(name + " reads " + std::to_string(reference[place]) + " of " +
-                                 NameOf(place) + ", the component " +
+        throw std::runtime_error(name + " reads " + std::to_string(reference[place]) +
+                                 " of table " + std::to_string(place) + ", the component " +
                                  std::to_string(component[place]));
     }
 }

@@ -52,8 +52,8 @@ def zsh_option(option: help_text.Option) -> str:
         description = description.replace(special, "\\" + special)
     value = ""
     if option.value:
-        value = f":{option.value}:" + (f"({' '.join(option.choices)})" if option.choices
-                                       else "_files")
+        choices = f"({' '.join(option.choices)})" if option.choices else " "
+        value = f":{option.value}:" + ("_files" if option.takes_file else choices)
     names = option.names[0] if len(option.names) == 1 else "{" + ",".join(option.names) + "}"
     return f"        {names}'[{quoted(description)}]{value}' \\\n"
 
@@ -94,7 +94,7 @@ def fish_option(option: help_text.Option, condition: str) -> str:
     if option.choices:
         flags += f" -x -a '{' '.join(option.choices)}'"
     elif option.value:
-        flags += " -r"
+        flags += " -r" if option.takes_file else " -x"
     return f"complete -c tamur -n '{condition}'{flags} -d '{fish_quoted(option.description)}'\n"
 
 

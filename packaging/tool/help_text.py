@@ -5,15 +5,20 @@ import subprocess
 
 # "  -o,--output OUT             where", or the same in two lines.
 ENTRY = re.compile(r"  (\S.*?)(?:\s{2,}(\S.*))?$")
-VALUE = re.compile(r"[A-Z][A-Z-]*")
+VALUE = re.compile(r"([A-Z][A-Z-]*)(?:\[,\1\.\.\.\])?")
 
 
 @dataclasses.dataclass
 class Option:
     names: list[str]
     value: str  # "" for one that has none
+    values: str  # the value, or several: "CODE[,CODE...]"
     description: str
     choices: list[str]
+
+    @property
+    def takes_file(self) -> bool:
+        return self.value in ("FILE", "OUT", "PATH")
 
 
 @dataclasses.dataclass
@@ -69,8 +74,8 @@ def choices_of(left: str, value: str, description: str, footer: str) -> list[str
 def option(left: str, description: str, footer: str) -> Option:
     names, _, rest = left.partition(" ")
     value = VALUE.match(rest.replace("REQUIRED", ""))
-    value_name = value[0] if value else ""
-    return Option(names.split(","), value_name, description,
+    value_name, values = (value[1], value[0]) if value else ("", "")
+    return Option(names.split(","), value_name, values, description,
                   choices_of(left, value_name, description, footer))
 
 

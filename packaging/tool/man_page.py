@@ -8,7 +8,7 @@ def plain(text: str) -> str:
 
 
 def entry(option: help_text.Option) -> str:
-    value = f" \\fI{plain(option.value)}\\fR" if option.value else ""
+    value = f" \\fI{plain(option.values)}\\fR" if option.value else ""
     names = ", ".join(f"\\fB{plain(name)}\\fR" for name in option.names)
     return f".TP\n{names}{value}\n{plain(option.description)}\n"
 
