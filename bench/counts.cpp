@@ -20,6 +20,15 @@ std::size_t PlaceOf(host::Kind kind)
     }
 }
 
+std::string NameOf(std::size_t place)
+{
+    for (int i = 1; i < host::kKindCount; ++i) {
+        const auto kind = static_cast<host::Kind>(i);
+        if (PlaceOf(kind) == place) return std::string(host::TableNameOf(kind));
+    }
+    return "what has no table";
+}
+
 }  // namespace
 
 Counts CountsOf(ITAMURStructureReader& reader)
@@ -36,8 +45,8 @@ void RequireSame(const Counts& component, const Counts& reference, const std::st
 {
     for (std::size_t place = 0; place < component.size(); ++place) {
         if (reference[place] == component[place]) continue;
-        throw std::runtime_error(name + " reads " + std::to_string(reference[place]) +
-                                 " of table " + std::to_string(place) + ", the component " +
+        throw std::runtime_error(name + " reads " + std::to_string(reference[place]) + " of " +
+                                 NameOf(place) + ", the component " +
                                  std::to_string(component[place]));
     }
 }

@@ -56,6 +56,7 @@ Finding TextAfterEnd(const FileScan& scan, const FileTail& tail)
             .values = {std::to_string(tail.dataLines)}};
 }
 
+// "14.1E2": two digits, a point, digits, and perhaps a letter with digits.
 bool IsUsualVersion(const std::string& version)
 {
     const char* at = version.c_str();

@@ -11,7 +11,7 @@
 namespace tamur::host {
 namespace {
 
-constexpr int kMany = 10000;
+constexpr int kMany = 20000;
 constexpr const char* kBar = " 0 0 0 1 2 0 0 0 1 1 1 1 1 5";
 constexpr const char* kSurface = " 0 0 0 1 3 1 1 4 4 0.2 0 0";
 

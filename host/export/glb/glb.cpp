@@ -209,18 +209,17 @@ class GlbScene {
                      const char* name)
     {
         Children parent;
-        for (const auto& content : contents) {
-            const int number = content.first;
-            const Children& children = content.second;
+        for (const auto& [number, children] : contents) {
             if (branches == Branches::kCases) {
                 AddBranchOf<TMRCas>(
                     "case", number, children, parent,
-                    [number](const TMRCas& record) { return record.Num == number; });
+                    [number = number](const TMRCas& record) { return record.Num == number; });
             } else if (branches == Branches::kGroups) {
-                AddBranchOf<TMRGroupe>(
-                    "group", number, children, parent, [number, kind](const TMRGroupe& record) {
-                        return record.Num == number && KindOfGroup(record.Elem) == kind;
-                    });
+                AddBranchOf<TMRGroupe>("group", number, children, parent,
+                                       [number = number, kind](const TMRGroupe& record) {
+                                           return record.Num == number &&
+                                                  KindOfGroup(record.Elem) == kind;
+                                       });
             } else {
                 parent.insert(parent.end(), children.begin(), children.end());
             }
